@@ -1,0 +1,53 @@
+// Log lines: a message is given as its parts and put together only when
+// somebody will read it.
+#pragma once
+
+#include <charconv>
+#include <concepts>
+#include <cstdint>
+#include <limits>
+#include <string>
+#include <string_view>
+
+namespace strake {
+
+// Appends one part of a text. Numbers are decimal in any locale, flags "0" or
+// "1". Other types join in with an AppendPart of their own.
+inline void AppendPart(std::string& text, std::string_view part) { text.append(part); }
+
+template <std::integral Number>
+requires(!std::same_as<Number, char>) void AppendPart(std::string& text, Number number) {
+  char digits[std::numeric_limits<Number>::digits10 + 3];
+  const auto end = std::to_chars(std::begin(digits), std::end(digits), +number).ptr;
+  text.append(std::begin(digits), end);
+}
+
+// An address, in the standard stream's pointer format.
+inline void AppendPart(std::string& text, const void* address) {
+  char digits[2 * sizeof(address)];
+  const auto end = std::to_chars(std::begin(digits), std::end(digits),
+                                 reinterpret_cast<std::uintptr_t>(address), 16)
+                       .ptr;
+  text.append("0x").append(std::begin(digits), end);
+}
+
+template <typename... Parts>
+std::string MakeText(const Parts&... parts) {
+  std::string text;
+  (AppendPart(text, parts), ...);
+  return text;
+}
+
+// Hands a message to the host's core logger; an empty one is dropped.
+void WriteLogLine(int level, const std::string& message);
+
+// The logging core of every owner: nothing is built or written while the gate
+// (what registration returned) is null.
+template <typename... Parts>
+void LogLine(const void* gate, int level, const Parts&... parts) {
+  if (gate != nullptr) {
+    WriteLogLine(level, MakeText(parts...));
+  }
+}
+
+}  // namespace strake

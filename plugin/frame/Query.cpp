@@ -1,0 +1,243 @@
+// The collection driver: finds out which service processor the server has and
+// runs the builders and readers that the requested classes call for.
+#include "plugin/environ/TSPEnviron.h"
+#include "plugin/frame/ClassNames.h"
+#include "plugin/frame/PresenceTest.h"
+#include "plugin/frame/SystemName.h"
+#include "plugin/frame/TStrakePluginCallbacks.h"
+#include "plugin/frame/TavitMachines.h"
+#include "plugin/host/Handle.h"
+#include "plugin/host/TOSSpecific.h"
+
+#include <exception>
+#include <utility>
+
+namespace strake {
+
+using NVELKZEV20::ICIMClass;
+using NVELKZEV20::ICIMNamespace;
+using NVELKZEV20::SPLibrary;
+using NVELKZEV20::TOSSpecific;
+
+struct TStrakePluginCallbacks::Request {
+  const char* className;
+  const char* flagText;
+  bool TStrakePluginCallbacks::*flag;
+};
+
+struct TStrakePluginCallbacks::Run {
+  const boost::shared_ptr<ICIMNamespace>& cimNamespace;
+  const std::string& MTM;
+  const std::string& systemName;
+  SPLibrary* spLib;
+  TSPEnviron& environ;
+};
+
+std::span<const TStrakePluginCallbacks::Request> TStrakePluginCallbacks::Requests() {
+  using T = TStrakePluginCallbacks;
+  static constexpr Request kRequests[] = {
+      {kSPComputerSystem, "fSP_ComputerSystem = ", &T::fSP_ComputerSystem},
+      {kIPProtocolEndpoint2,
+       "\nfServProc_IPProtocolEndpoint2 = ", &T::fServProc_IPProtocolEndpoint2},
+      {kIPProtocolEndpoint, "\nfServProc_IPProtocolEndpoint = ", &T::fServProc_IPProtocolEndpoint},
+      {kDialProtocolEndpoint3,
+       "\nfServProc_DialProtocolEndpoint3 = ", &T::fServProc_DialProtocolEndpoint3},
+      {kDialProtocolEndpoint1,
+       "\nfServProc_DialProtocolEndpoint1 = ", &T::fServProc_DialProtocolEndpoint1},
+      {kDialProtocolEndpoint2,
+       "\nfServProc_DialProtocolEndpoint2 = ", &T::fServProc_DialProtocolEndpoint2},
+      {kDialProtocolEndpoint4,
+       "\nfServProc_DialProtocolEndpoint4 = ", &T::fServProc_DialProtocolEndpoint4},
+      {kNumericSensor, "\nfSP_NumericSensor = ", &T::fSP_NumericSensor},
+  };
+  return kRequests;
+}
+
+void TStrakePluginCallbacks::Query(boost::shared_ptr<ICIMNamespace> cimNamespace,
+                                   const std::vector<boost::shared_ptr<ICIMClass>>& classes) {
+  LogLevel3("Strake plugin begin execution.");
+  const std::string MTM = ReadMachineType();
+  const std::string systemName = ReadSystemName(fProvider, cimNamespace);
+  NoteRequestedClasses(classes);
+
+  SPLibrary* const spLib = SPLibrary::GetSplibraryInstance(0);
+  TSPEnviron environ(cimNamespace, spLib, fProvider);
+  LogLevel3("Max_Num_Machines = ", Max_Num_Machines,
+            " sizeof(MachineTypeArray) = ", sizeof(MachineTypeArray),
+            ", sizeof(char*) = ", sizeof(char*));
+  const Run run = {cimNamespace, MTM, systemName, spLib, environ};
+  bool isComplete = true;
+  if (spLib->isDotcommand()) {
+    isComplete = CollectOrlo(run);
+  } else if (spLib->isKestle() && fSP_NumericSensor) {
+    isComplete = CollectTavit(run);
+  } else {
+    // Also told of a Tavit processor whose sensors nobody asked for.
+    LogLevel3("No Orlo on board. No Tavit on board.");
+  }
+  if (isComplete) {
+    LogLevel3("Strake plugin execution complete.");
+  }
+}
+
+std::string TStrakePluginCallbacks::ReadMachineType() const {
+  try {
+    std::string MTM = TOSSpecific::GetMachineTypeFromID();
+    LogLevel3("Obtained MTM.");
+    LogLevel3(MTM);
+    return MTM;
+  } catch (const std::exception& error) {
+    LogLevel2("Unable to obtain MTM due to caught exception ", error.what());
+    return "Unknown MTM";
+  }
+}
+
+void TStrakePluginCallbacks::NoteRequestedClasses(
+    const std::vector<boost::shared_ptr<ICIMClass>>& classes) {
+  for (const Request& request : Requests()) {
+    this->*request.flag = false;
+  }
+  for (const boost::shared_ptr<ICIMClass>& handle : classes) {
+    const ICIMClass& cimClass = Deref(handle);
+    LogLevel3("Current class = ", cimClass.GetName());
+    for (const Request& request : Requests()) {
+      // The host is asked anew for each comparison.
+      if (cimClass.GetName() == request.className) {
+        this->*request.flag = true;
+        break;
+      }
+    }
+  }
+  const auto flags = [this] {
+    std::string text;
+    for (const Request& request : Requests()) {
+      text += MakeText(request.flagText, this->*request.flag);
+    }
+    return text;
+  };
+  if (fProvider != nullptr) {
+    LogLevel3(flags());
+  }
+}
+
+bool TStrakePluginCallbacks::CollectOrlo(const Run& run) {
+  LogLevel3("Orlo is present on board. Begin collecting TCPIP and dial settings data.");
+  if (!run.spLib->checkSPComm()) {
+    LogLevel0("Could not communicate with Orlo card.");
+    return false;
+  }
+  // Instances are numbered in eight bits; what is above them is not looked at.
+  const auto count = static_cast<unsigned char>(run.spLib->discoverSPs());
+  LogLevel3("DiscoverSPs() found SPinstance#: ", count);
+  for (unsigned char sp = 0; sp < count; ++sp) {
+    const bool answers = AnswersPresenceTest(run.spLib, sp);
+    LogLevel3("Checking dotCmd for spInstance#: ", sp, ". cmd_passed = ", answers);
+    if (answers) {
+      CollectFromOrlo(run, sp);
+    }
+  }
+  if (fSP_NumericSensor) {
+    run.environ.ExportOrloVoltages();
+    run.environ.ExportOrloTemps();
+    run.environ.ExportOrloFans();
+  }
+  LogLevel3("Orlo collection complete.");
+  return true;
+}
+
+// One kind of work an SP and query, in this precedence, however many classes
+// were requested.
+void TStrakePluginCallbacks::CollectFromOrlo(const Run& run, unsigned char sp) {
+  if (fServProc_IPProtocolEndpoint2 || fServProc_IPProtocolEndpoint) {
+    if (tcpipcommands(run.cimNamespace, run.spLib, run.MTM, run.systemName, sp).Code() != 0) {
+      LogLevel3("Did not obtain all tcpip info.");
+    }
+  } else if (fServProc_DialProtocolEndpoint3 || fServProc_DialProtocolEndpoint1 ||
+             fServProc_DialProtocolEndpoint2 || fServProc_DialProtocolEndpoint4) {
+    if (dialcommands(run.cimNamespace, run.spLib, run.MTM, run.systemName, sp).Code() != 0) {
+      LogLevel3("Did not obtain all dial info.");
+    }
+  } else if (fSP_NumericSensor) {
+    ReadOrloSensors(run, sp);
+  } else if (fSP_ComputerSystem) {
+    if (CreateVELKSGComputerSystem(run.cimNamespace, run.systemName, run.spLib, sp).Code() != 0) {
+      LogLevel2("Could not create VELKSG_SP_ComputerSystem class");
+    }
+  }
+}
+
+void TStrakePluginCallbacks::ReadOrloSensors(const Run& run, unsigned char sp) {
+  run.environ.SetNode(sp);
+  LogLevel3("Begin collecting Orlo Environmental data.");
+  if (run.environ.GetOrloVoltage().Code() != 0) {
+    LogLevel3("Did not obtain all Orlo Voltage data");
+  }
+  if (run.environ.GetOrloTemps().Code() != 0) {
+    LogLevel3("Did not obtain all Orlo Temperature data");
+  }
+  if (run.environ.GetOrloFans().Code() != 0) {
+    LogLevel3("Did not obtain all Orlo Fan data");
+  }
+}
+
+bool TStrakePluginCallbacks::CollectTavit(const Run& run) {
+  LogLevel3("Tavit is present on board.");
+  if (IsHeldByManagementServer(run)) {
+    return true;
+  }
+  LogLevel3("Collecting Tavit data. (No Dornlibrary on board).");
+  const std::string machineType = run.MTM.substr(0, 4);
+  std::size_t index = 0;
+  for (; index < Max_Num_Machines; ++index) {
+    LogLevel3("CurrentMachineTypeArray = ", MachineTypeArray[index]);
+    if (machineType == MachineTypeArray[index]) {
+      break;
+    }
+  }
+  if (index == Max_Num_Machines) {
+    LogLevel2("No matching Tavit machine was found.");
+    return false;
+  }
+  LogLevel2("Found matching Tavit machine type");
+  LogLevel4("Tavit machine type index=", index);
+  const unsigned int kestleType = KestleTypeOf(index);
+  if (kestleType == kNoKestleType) {
+    LogLevel1("Could not find particular Tavit machine.");
+  }
+  LogLevel3("Tavit_Type = ", kestleType);
+  ReadTavitSensors(run, kestleType);
+  LogLevel3("Complete collection of Tavit data.");
+  return true;
+}
+
+bool TStrakePluginCallbacks::IsHeldByManagementServer(const Run& run) {
+  if (run.spLib->isQmvStop() || !run.spLib->isDornlibrary()) {
+    return false;
+  }
+  LogLevel3("Dorn Library is present on board.");
+  // Hosts expect to be asked for the time here; nobody uses it.
+  static_cast<void>(TOSSpecific::GetLocalTime());
+  LogNotice4(
+      "Tavit environmental data is not being collected due to the presence of VELK Ostrel.\n"
+      "To stop Ostrel, use command net stop qmvipc.  Then run ZEV.  "
+      "Afterwards restart Ostrel with command net start qmvipc.");
+  LogLevel1("Dornlibrary is present on the system. Cannot collect Tavit data.");
+  return true;
+}
+
+void TStrakePluginCallbacks::ReadTavitSensors(const Run& run, unsigned int kestleType) {
+  if (run.environ.GetKestleVoltage(kestleType).Code() != 0) {
+    LogLevel3("Did not obtain all Kestle Voltage data");
+  }
+  if (run.environ.GetKestleFan(kestleType).Code() != 0) {
+    LogLevel3("Did not obtain all Tavit Fan data");
+  }
+  if (run.environ.GetKestleTemperature(kestleType).Code() != 0) {
+    LogLevel3("Did not obtain all Tavit Temperature data");
+  }
+  run.environ.ExportKestleVoltages();
+  run.environ.ExportKestleFans();
+  run.environ.ExportKestleTemps();
+}
+
+}  // namespace strake

@@ -1,0 +1,17 @@
+// The hosting system's name, as the collection driver and the sensor export
+// both ask for it.
+#pragma once
+
+#include "plugin/host/ICIM.h"
+
+#include <boost/shared_ptr.hpp>
+#include <string>
+
+namespace strake {
+
+// Asks the host and logs what came of it through `gate`. A host that throws a
+// std::exception costs the name: "Unknown SystemName".
+std::string ReadSystemName(const void* gate,
+                           const boost::shared_ptr<NVELKZEV20::ICIMNamespace>& cimNamespace);
+
+}  // namespace strake

@@ -1,0 +1,134 @@
+// The plug-in's one object: what the host calls, what the rest of the plug-in
+// logs through, and the classes that the current query wants.
+#pragma once
+
+#include "plugin/config/ServiceProcessor.h"
+#include "plugin/frame/LogLine.h"
+#include "plugin/host/ICIM.h"
+#include "plugin/host/IPluginCallbacks.h"
+#include "plugin/host/TRootObject.h"
+#include "plugin/host/TZEVStatusCode.h"
+#include "plugin/spaccess/SPLibrary.h"
+
+#include <boost/shared_ptr.hpp>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace strake {
+
+class InstanceBuilder;
+class TSPEnviron;
+
+class TStrakePluginCallbacks : public NVELKZEV20::IPluginCallbacks,
+                               public NVELKZEV20::IPluginBasicQueryCallbacks {
+ public:
+  // Registers the object with the host's plug-in manager.
+  TStrakePluginCallbacks();
+  TStrakePluginCallbacks(const TStrakePluginCallbacks&) = delete;
+  TStrakePluginCallbacks& operator=(const TStrakePluginCallbacks&) = delete;
+  ~TStrakePluginCallbacks() override;
+
+  void* GetReserved() override;
+  [[nodiscard]] std::string GetDisplayName() override;
+  [[nodiscard]] std::string GetVersion() override;
+  [[nodiscard]] std::string GetFrameworkVersion() override;
+  void Destroy() override;
+  void Initialize() override;
+  void Deinitialize() override;
+
+  void Query(boost::shared_ptr<NVELKZEV20::ICIMNamespace> cimNamespace,
+             const std::vector<boost::shared_ptr<NVELKZEV20::ICIMClass>>& classes) override;
+
+  // Deletes a plug-in object; none is no error.
+  static void DestroyObject(TStrakePluginCallbacks* object);
+
+  // The logging wrappers: each passes one message, given as its parts, to the
+  // logging core with its level.
+  template <typename... Parts>
+  void LogLevel0(const Parts&... parts) const {
+    LogLine(fProvider, 0, parts...);
+  }
+  template <typename... Parts>
+  void LogLevel1(const Parts&... parts) const {
+    LogLine(fProvider, 1, parts...);
+  }
+  template <typename... Parts>
+  void LogLevel2(const Parts&... parts) const {
+    LogLine(fProvider, 2, parts...);
+  }
+  template <typename... Parts>
+  void LogLevel3(const Parts&... parts) const {
+    LogLine(fProvider, 3, parts...);
+  }
+  template <typename... Parts>
+  void LogLevel4(const Parts&... parts) const {
+    LogLine(fProvider, 4, parts...);
+  }
+  // For what a person must do something about.
+  template <typename... Parts>
+  void LogNotice4(const Parts&... parts) const {
+    LogLine(fProvider, 4, parts...);
+  }
+
+  // Sends one dot command to one SP, with its trail of log lines. Returns the
+  // reply length as the SP reported it; `status` is 1 on success, else 0.
+  int sendCommand(unsigned char commandClass, int identifierLength, int secondLength,
+                  const unsigned char* identifier, const unsigned char* extraData,
+                  unsigned char* reply, int replySize, unsigned char* status,
+                  NVELKZEV20::SPLibrary* spLib, unsigned char sp);
+
+  // The builders of one SP's instances. The status is 0 on every path.
+  NVELKZEV20::TZEVStatusCode CreateVELKSGComputerSystem(
+      boost::shared_ptr<NVELKZEV20::ICIMNamespace> cimNamespace, std::string systemName,
+      NVELKZEV20::SPLibrary* spLib, unsigned char sp);
+  NVELKZEV20::TZEVStatusCode tcpipcommands(
+      boost::shared_ptr<NVELKZEV20::ICIMNamespace> cimNamespace, NVELKZEV20::SPLibrary* spLib,
+      std::string machineType, std::string systemName, unsigned char sp);
+  NVELKZEV20::TZEVStatusCode dialcommands(boost::shared_ptr<NVELKZEV20::ICIMNamespace> cimNamespace,
+                                          NVELKZEV20::SPLibrary* spLib, std::string machineType,
+                                          std::string systemName, unsigned char sp);
+
+  // The instances of the dial classes, by instance number, counted from 1.
+  NVELKZEV20::TZEVStatusCode getSerialPortData(const ServiceProcessor& sp, unsigned char instance);
+  NVELKZEV20::TZEVStatusCode getDialoutSettings(const ServiceProcessor& sp, unsigned char instance);
+  NVELKZEV20::TZEVStatusCode getDialinSettings(const ServiceProcessor& sp, unsigned char instance);
+  NVELKZEV20::TZEVStatusCode getDialOutAlerts(const ServiceProcessor& sp, unsigned char instance);
+
+  // Fill the instance of network interface `number` (1 or 2).
+  void NetworkInterface(const ServiceProcessor& sp, InstanceBuilder& instance,
+                        unsigned char number);
+  void IndividualDHCPValues(const ServiceProcessor& sp, InstanceBuilder& instance,
+                            unsigned char number);
+
+ private:
+  struct Request;  // a class and the flag that stands for it
+  struct Run;      // what one query works with
+
+  static std::span<const Request> Requests();
+  void NoteRequestedClasses(const std::vector<boost::shared_ptr<NVELKZEV20::ICIMClass>>& classes);
+  std::string ReadMachineType() const;
+  // False: the run ends at once, without its closing line.
+  bool CollectOrlo(const Run& run);
+  void CollectFromOrlo(const Run& run, unsigned char sp);
+  void ReadOrloSensors(const Run& run, unsigned char sp);
+  bool CollectTavit(const Run& run);
+  bool IsHeldByManagementServer(const Run& run);
+  void ReadTavitSensors(const Run& run, unsigned int kestleType);
+
+  void PublishNetworkInterfaces(const ServiceProcessor& sp);
+
+  boost::shared_ptr<NVELKZEV20::ICIMNamespace> fReservedHandle;
+  std::string fReservedText;
+  NVELKZEV20::TPluginManagerProvider* fProvider = nullptr;  // the logging gate
+  bool fSP_ComputerSystem = false;
+  bool fServProc_IPProtocolEndpoint2 = false;
+  bool fServProc_IPProtocolEndpoint = false;
+  bool fServProc_DialProtocolEndpoint3 = false;
+  bool fServProc_DialProtocolEndpoint1 = false;
+  bool fServProc_DialProtocolEndpoint2 = false;
+  bool fServProc_DialProtocolEndpoint4 = false;
+  bool fSP_NumericSensor = false;
+};
+
+}  // namespace strake
