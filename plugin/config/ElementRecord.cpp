@@ -1,0 +1,54 @@
+#include "plugin/config/ElementRecord.h"
+
+#include "plugin/config/InstanceBuilder.h"
+#include "plugin/frame/TStrakePluginCallbacks.h"
+
+namespace strake {
+namespace {
+
+void LogElement(const TStrakePluginCallbacks& callbacks, const RecordLayout& layout,
+                const RecordField& field, const ElementCursor& element) {
+  const char* const label = field.label != nullptr ? field.label : field.name;
+  const bool isString = field.form != FieldForm::Plain;
+  if (layout.tellsVectorIds) {
+    callbacks.LogLevel4("[", label, "] Vector ID = ", element.VectorId(), " ", element.Header());
+  }
+  if (isString || layout.tellsPlainLength) {
+    callbacks.LogLevel4("[", label, "] Data length = ", element.DataLength());
+  }
+  if (isString) {
+    callbacks.LogLevel4("[", label, "] Max length of string = ", element.MaximumLength());
+  }
+}
+
+}  // namespace
+
+ByteView FieldValue(const ElementCursor& element, FieldForm form) {
+  switch (form) {
+    case FieldForm::String:
+      return element.Characters();
+    case FieldForm::BoundedText:
+      return element.BoundedCharacters();
+    case FieldForm::Plain:
+      break;
+  }
+  return element.Data();
+}
+
+void PublishRecord(const TStrakePluginCallbacks& callbacks, const RecordLayout& layout,
+                   ByteView record, InstanceBuilder& instance) {
+  ElementCursor element(record);
+  std::string text;
+  for (const RecordField& field : layout.fields) {
+    LogElement(callbacks, layout, field, element);
+    text.clear();
+    field.decode(FieldValue(element, field.form), text);
+    callbacks.LogLevel3(field.name, " = ", text);
+    if (field.isPublished) {
+      instance.Set(field.name, text);
+    }
+    element.Advance();
+  }
+}
+
+}  // namespace strake

@@ -1,0 +1,42 @@
+// Element records as tables of fields, and the one walk that reads them all.
+#pragma once
+
+#include "plugin/config/ElementCursor.h"
+#include "plugin/config/ValueDecoders.h"
+
+#include <span>
+
+namespace strake {
+
+class InstanceBuilder;
+class TStrakePluginCallbacks;
+
+enum class FieldForm {
+  Plain,        // L data bytes
+  String,       // L characters, however small M is
+  BoundedText,  // min(L, M) characters
+};
+
+struct RecordField {
+  const char* name;
+  FieldForm form;
+  ValueDecoder decode;
+  bool isPublished = true;      // else it is only logged
+  const char* label = nullptr;  // what the bracketed lines call it; null: its name
+};
+
+struct RecordLayout {
+  std::span<const RecordField> fields;
+  bool tellsVectorIds = true;     // "[...] Vector ID = "
+  bool tellsPlainLength = false;  // "[...] Data length = " for plain elements too
+};
+
+// Decodes the record's fields in order: logs each, and sets those that are
+// published on the instance.
+void PublishRecord(const TStrakePluginCallbacks& callbacks, const RecordLayout& layout,
+                   ByteView record, InstanceBuilder& instance);
+
+// The value bytes of the element that the cursor stands on.
+ByteView FieldValue(const ElementCursor& element, FieldForm form);
+
+}  // namespace strake
