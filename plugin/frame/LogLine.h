@@ -23,10 +23,14 @@ requires(!std::same_as<Number, char>) void AppendPart(std::string& text, Number 
 }
 
 // An address, in the standard stream's pointer format.
-inline void AppendPart(std::string& text, const void* address) {
-  char digits[2 * sizeof(address)];
+struct AddressText {
+  const void* address;
+};
+
+inline void AppendPart(std::string& text, const AddressText& part) {
+  char digits[2 * sizeof(part.address)];
   const auto end = std::to_chars(std::begin(digits), std::end(digits),
-                                 reinterpret_cast<std::uintptr_t>(address), 16)
+                                 reinterpret_cast<std::uintptr_t>(part.address), 16)
                        .ptr;
   text.append("0x").append(std::begin(digits), end);
 }

@@ -12,7 +12,7 @@ void LogSent(const void* gate, const SenderWording& wording, const DotCommandCal
              const DotCommandText& text, int replyLength) {
   // The status is told by its address, which is what readers of this trail
   // have always seen there.
-  const void* const statusAddress = call.status;
+  const AddressText statusAddress{call.status};
   if (wording.namesInstance) {
     LogLine(gate, 4, wording.sent, text, " Status: ", statusAddress,
             ". ReturnDataLen:", replyLength, " for spInstance#: ", call.sp, ".");
