@@ -1,0 +1,17 @@
+// What the in-process host core was set up with.
+#pragma once
+
+#include "platform/hostcore/HostControl.h"
+
+namespace strake::platform {
+
+struct HostState {
+  HostSettings settings;
+  BoundaryObserver* observer = nullptr;
+  LogSink sink;
+};
+
+// The process' one host.
+HostState& TheHost();
+
+}  // namespace strake::platform

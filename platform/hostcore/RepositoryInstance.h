@@ -1,0 +1,39 @@
+// An instance under construction; its commit puts it into the repository.
+#pragma once
+
+#include "platform/hostcore/RepositoryState.h"
+#include "platform/hostcore/Schema.h"
+#include "plugin/host/ICIM.h"
+
+#include <bitset>
+#include <boost/shared_ptr.hpp>
+#include <string>
+
+namespace strake::platform {
+
+// No class of the schema has more properties.
+inline constexpr std::size_t kMostProperties = 64;
+
+class RepositoryInstance : public NVELKZEV20::ICIMInstance {
+ public:
+  RepositoryInstance(const boost::shared_ptr<RepositoryState>& state,
+                     const SchemaClass& schemaClass, unsigned long number);
+
+  void Commit(NVELKZEV20::TNameToValueMap options) override;
+  void SetProperty(const std::string& name, const NVELKZEV20::TCIMValue& value,
+                   NVELKZEV20::TNameToValueMap qualifiers) override;
+
+ private:
+  [[noreturn]] void RefuseCommitted(const std::string& what) const;
+  [[nodiscard]] std::size_t CheckProperty(const std::string& name, CimType type) const;
+  void Store(std::size_t schemaIndex, const std::string& name, const NVELKZEV20::TCIMValue& value);
+
+  boost::shared_ptr<RepositoryState> fState;
+  const SchemaClass& fSchemaClass;
+  const unsigned long fNumber;
+  StoredInstance fStored;
+  std::bitset<kMostProperties> fIsSet;  // by place in the schema
+  bool fCommitted = false;
+};
+
+}  // namespace strake::platform

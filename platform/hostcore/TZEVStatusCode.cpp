@@ -1,0 +1,7 @@
+#include "plugin/host/TZEVStatusCode.h"
+
+namespace NVELKZEV20 {
+
+TZEVStatusCode::TZEVStatusCode(EZEVStatusCode code) : fCode(code) {}
+
+}  // namespace NVELKZEV20

@@ -1,0 +1,53 @@
+// Reads a description out of a file, without trusting its size or its kind.
+#include "platform/server/Quote.h"
+#include "platform/server/ServerDescription.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <memory>
+#include <system_error>
+
+namespace strake::platform {
+namespace {
+
+struct Closer {
+  // Nothing was written, so closing has nothing to say.
+  void operator()(std::FILE* file) const { static_cast<void>(std::fclose(file)); }
+};
+
+[[noreturn]] void Refuse(const std::string& name, int error) {
+  throw DescriptionError(PrintableName(name) +
+                         ": cannot be read: " + std::generic_category().message(error));
+}
+
+// At most one byte more than a description may have, so that a device that
+// never ends and a huge file cost no more than the largest description.
+std::string ReadBytes(const std::filesystem::path& path) {
+  const std::unique_ptr<std::FILE, Closer> file(std::fopen(path.c_str(), "rbe"));
+  if (file == nullptr) {
+    Refuse(path.string(), errno);
+  }
+  std::string text;
+  constexpr std::size_t kChunk = std::size_t{64} * 1024;
+  while (text.size() <= kMostDescriptionBytes) {
+    const std::size_t filled = text.size();
+    text.resize(filled + kChunk);
+    const std::size_t count = std::fread(&text.at(filled), 1, kChunk, file.get());
+    text.resize(filled + count);
+    if (std::ferror(file.get()) != 0) {
+      Refuse(path.string(), errno);
+    }
+    if (count == 0) {
+      break;
+    }
+  }
+  return text;
+}
+
+}  // namespace
+
+ServerDescription ReadServerDescription(const std::filesystem::path& file) {
+  return ParseServerDescription(ReadBytes(file), file.string());
+}
+
+}  // namespace strake::platform

@@ -1,0 +1,24 @@
+#include "platform/server/JsonPointer.h"
+
+#include "platform/server/Quote.h"
+
+namespace strake::platform {
+
+void AppendToPointer(std::string& pointer, std::string_view token) {
+  pointer += '/';
+  for (const char character : token) {
+    if (character == '~') {
+      pointer += "~0";
+    } else if (character == '/') {
+      pointer += "~1";
+    } else {
+      pointer += character;
+    }
+  }
+}
+
+std::string PrintablePointer(std::string_view pointer) {
+  return pointer.empty() ? "the top level" : Printable(pointer);
+}
+
+}  // namespace strake::platform
