@@ -1,0 +1,42 @@
+// What the command was asked to do.
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <variant>
+#include <vector>
+
+namespace strake::app {
+
+enum class ReportFormat { Table, Json };
+
+struct CollectOptions {
+  std::optional<std::filesystem::path> server;  // empty: the built-in server `demo`
+  std::string demo = "demo-orlo";
+  std::vector<std::string> classes;  // known ones; empty: all eight
+  std::vector<std::string> queries;  // class lists; not empty: they replace the classes
+  ReportFormat format = ReportFormat::Table;
+  std::optional<std::filesystem::path> output;
+  std::optional<std::filesystem::path> trace;
+  std::optional<std::filesystem::path> log;
+  int logLevel = 2;
+  bool showSecrets = false;
+  std::optional<std::filesystem::path> plugin;
+};
+
+struct CheckOptions {
+  std::filesystem::path file;
+};
+
+// Help or version: a text for standard output, nothing else.
+struct TextAnswer {
+  std::string text;
+};
+
+using CommandLine = std::variant<CollectOptions, CheckOptions, TextAnswer>;
+
+// Throws UsageError.
+CommandLine ParseCommandLine(int argc, const char* const* argv);
+
+}  // namespace strake::app

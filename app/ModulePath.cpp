@@ -1,0 +1,41 @@
+#include "app/ModulePath.h"
+
+#include "app/Errors.h"
+
+#include <array>
+#include <string>
+#include <system_error>
+
+namespace strake::app {
+namespace {
+
+// From the command's folder: beside it, as built, as installed.
+constexpr std::array<const char*, 3> kPlaces{".", "../lib", STRAKE_BIN_TO_LIB};
+constexpr const char* kModule = "strake.so";
+
+}  // namespace
+
+std::filesystem::path FindModule(const std::filesystem::path& commandFolder) {
+  std::filesystem::path previous;
+  std::string searched;
+  for (const char* const place : kPlaces) {
+    const std::filesystem::path module = (commandFolder / place / kModule).lexically_normal();
+    if (module == previous) {
+      continue;
+    }
+    std::error_code ignored;  // what cannot be looked at is not there
+    if (std::filesystem::exists(module, ignored)) {
+      return module;
+    }
+    searched += (searched.empty() ? "" : ", ") + module.parent_path().string();
+    previous = module;
+  }
+  throw RunError(std::string("no plug-in module ") + kModule + " in " + searched +
+                 "; name one with --plugin");
+}
+
+std::filesystem::path CommandFolder() {
+  return std::filesystem::read_symlink("/proc/self/exe").parent_path();
+}
+
+}  // namespace strake::app

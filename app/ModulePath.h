@@ -1,0 +1,15 @@
+// Where the plug-in module lies.
+#pragma once
+
+#include <filesystem>
+
+namespace strake::app {
+
+// strake.so beside the command or in the folder of libraries that belongs to
+// it. Throws RunError when there is none.
+std::filesystem::path FindModule(const std::filesystem::path& commandFolder);
+
+// The folder of the running command.
+std::filesystem::path CommandFolder();
+
+}  // namespace strake::app

@@ -1,0 +1,55 @@
+// The command `strake`: how a run ends is decided here.
+#include "app/Check.h"
+#include "app/Collect.h"
+#include "app/CommandLine.h"
+#include "app/Errors.h"
+#include "app/OutputFile.h"
+#include "app/Terminal.h"
+#include "app/TextEscape.h"
+#include "platform/server/ServerDescription.h"
+
+#include <csignal>
+#include <cstdio>
+#include <exception>
+#include <string>
+#include <variant>
+
+namespace strake::app {
+namespace {
+
+struct Runner {
+  void operator()(const CollectOptions& options) const { Collect(options); }
+  void operator()(const CheckOptions& options) const {
+    WriteStandardOutput(CheckDescription(options));
+  }
+  void operator()(const TextAnswer& answer) const { WriteStandardOutput(answer.text); }
+};
+
+int Fail(const char* text, int status) {
+  const std::string line = "strake: " + EscapeForPeople(text) + "\n";
+  std::fputs(line.c_str(), stderr);
+  return status;
+}
+
+int Main(int argc, char** argv) {
+  try {
+    OccupyStandardDescriptors();
+    // A reader that went away is a write error like any other.
+    std::signal(SIGPIPE, SIG_IGN);
+    std::visit(Runner(), ParseCommandLine(argc, argv));
+    return kExitDone;
+  } catch (const UsageError& error) {
+    return Fail(error.what(), kExitRefused);
+  } catch (const platform::DescriptionError& error) {
+    return Fail(error.what(), kExitRefused);
+  } catch (const std::exception& error) {
+    return Fail(error.what(), kExitFailed);
+  } catch (...) {
+    return Fail("an exception that does not say what it is", kExitFailed);
+  }
+}
+
+}  // namespace
+}  // namespace strake::app
+
+int main(int argc, char** argv) { return strake::app::Main(argc, argv); }
