@@ -1,0 +1,167 @@
+#include "tests/app/Command.h"
+
+#include <cstdio>
+#include <cstdlib>
+#include <fcntl.h>
+#include <memory>
+#include <ostream>
+#include <stdexcept>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <termios.h>
+#include <unistd.h>
+
+namespace strake::tests {
+namespace {
+
+// What a process wrote, without a reader that keeps up: a file without a name.
+class Capture {
+ public:
+  Capture() : fFile(std::tmpfile()) {}
+  [[nodiscard]] int Descriptor() const { return ::fileno(fFile.get()); }
+  [[nodiscard]] std::string Text() const {
+    std::string text;
+    std::rewind(fFile.get());
+    for (int byte = std::fgetc(fFile.get()); byte != EOF; byte = std::fgetc(fFile.get())) {
+      text += static_cast<char>(byte);
+    }
+    return text;
+  }
+
+ private:
+  struct Closer {
+    void operator()(std::FILE* file) const { std::fclose(file); }
+  };
+  std::unique_ptr<std::FILE, Closer> fFile;
+};
+
+// Both sides stay open, so that what was written can be read at the end.
+class Terminal {
+ public:
+  Terminal() : fMaster(::posix_openpt(O_RDWR | O_NOCTTY)) {
+    if (fMaster < 0 || ::grantpt(fMaster) != 0 || ::unlockpt(fMaster) != 0) {
+      throw std::runtime_error("no terminal");
+    }
+    fSlave = ::open(::ptsname(fMaster), O_RDWR | O_NOCTTY);
+    termios settings{};
+    ::tcgetattr(fSlave, &settings);
+    ::cfmakeraw(&settings);
+    ::tcsetattr(fSlave, TCSANOW, &settings);
+    ::fcntl(fMaster, F_SETFL, O_NONBLOCK);
+  }
+  Terminal(const Terminal&) = delete;
+  Terminal& operator=(const Terminal&) = delete;
+  ~Terminal() {
+    ::close(fSlave);
+    ::close(fMaster);
+  }
+
+  [[nodiscard]] int Descriptor() const { return fSlave; }
+  // At most what a terminal holds, about 4 KiB.
+  [[nodiscard]] std::string Text() const {
+    std::string text(4096, '\0');
+    std::size_t length = 0;
+    for (ssize_t count = 1; count > 0 && length < text.size();) {
+      count = ::read(fMaster, text.data() + length, text.size() - length);
+      length += count > 0 ? static_cast<std::size_t>(count) : 0;
+    }
+    text.resize(length);
+    return text;
+  }
+
+ private:
+  int fMaster;
+  int fSlave = -1;
+};
+
+}  // namespace
+
+std::ostream& operator<<(std::ostream& stream, const Outcome& outcome) {
+  return stream << "status " << outcome.status << "\n--- out\n"
+                << outcome.out << "--- err\n"
+                << outcome.err;
+}
+
+Command& Command::StandardOutput(const std::string& file) {
+  fOutput = file.empty() ? Output::Closed : Output::File;
+  fOutputFile = file;
+  return *this;
+}
+
+Command& Command::Environment(const std::string& assignment) {
+  fEnvironment.push_back(assignment);
+  return *this;
+}
+
+Command& Command::Mask(mode_t mask) {
+  fMask = mask;
+  return *this;
+}
+
+void Command::Become(int out, int err) const {
+  ::umask(fMask);
+  if (fOutput == Output::Closed) {
+    ::close(STDOUT_FILENO);
+  } else {
+    ::dup2(fOutput == Output::File ? ::open(fOutputFile.c_str(), O_WRONLY) : out, STDOUT_FILENO);
+  }
+  ::dup2(err, STDERR_FILENO);
+  std::vector<std::string> words = fWords;
+  words.insert(words.begin(), STRAKE_BINARY_DIR "/bin/strake");
+  std::vector<char*> arguments;
+  for (std::string& word : words) {
+    arguments.push_back(word.data());
+  }
+  arguments.push_back(nullptr);
+  // A sanitizer's notes about the leak that is intended are no part of the output.
+  std::vector<std::string> variables = {
+      "LSAN_OPTIONS=print_suppressions=0:suppressions=" STRAKE_SOURCE_DIR "/tests/lsan.supp"};
+  variables.insert(variables.end(), fEnvironment.begin(), fEnvironment.end());
+  std::vector<char*> environment;
+  for (std::string& variable : variables) {
+    environment.push_back(variable.data());
+  }
+  environment.push_back(nullptr);
+  ::execve(arguments.front(), arguments.data(), environment.data());
+  ::_exit(127);
+}
+
+int Command::Wait(pid_t process) {
+  int status = 0;
+  ::waitpid(process, &status, 0);
+  return WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status);
+}
+
+Outcome Command::Run() const {
+  const Capture out;
+  const Capture err;
+  const pid_t process = ::fork();
+  if (process == 0) {
+    Become(out.Descriptor(), err.Descriptor());
+  }
+  const int status = Wait(process);
+  return {status, out.Text(), err.Text()};
+}
+
+Outcome Command::RunOnTerminal() const {
+  const Terminal out;
+  const Capture err;
+  const pid_t process = ::fork();
+  if (process == 0) {
+    Become(out.Descriptor(), err.Descriptor());
+  }
+  const int status = Wait(process);
+  return {status, out.Text(), err.Text()};
+}
+
+Outcome Strake(const std::vector<std::string>& words) { return Command(words).Run(); }
+
+Outcome CollectHostile(std::vector<std::string> words) {
+  words.insert(words.begin(), {"collect", "--plugin", HostileModule()});
+  return Strake(words);
+}
+
+std::string HostileModule() { return STRAKE_BINARY_DIR "/test-modules/hostile.so"; }
+std::string RefusingModule() { return STRAKE_BINARY_DIR "/test-modules/refusing.so"; }
+
+}  // namespace strake::tests

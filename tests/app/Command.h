@@ -1,0 +1,52 @@
+// Runs the built command as a process.
+#pragma once
+
+#include <string>
+#include <sys/types.h>
+#include <vector>
+
+namespace strake::tests {
+
+struct Outcome {
+  int status = -1;
+  std::string out;
+  std::string err;
+  bool operator==(const Outcome&) const = default;
+};
+
+std::ostream& operator<<(std::ostream& stream, const Outcome& outcome);
+
+class Command {
+ public:
+  explicit Command(std::vector<std::string> words) : fWords(std::move(words)) {}
+
+  // A file instead of what the test reads; empty: closed.
+  Command& StandardOutput(const std::string& file);
+  Command& Environment(const std::string& assignment);
+  Command& Mask(mode_t mask);
+
+  [[nodiscard]] Outcome Run() const;
+  // As on a terminal.
+  [[nodiscard]] Outcome RunOnTerminal() const;
+
+ private:
+  enum class Output { Read, File, Closed };
+
+  [[noreturn]] void Become(int out, int err) const;
+  [[nodiscard]] static int Wait(pid_t process);
+
+  std::vector<std::string> fWords;
+  std::vector<std::string> fEnvironment;
+  Output fOutput = Output::Read;
+  std::string fOutputFile;
+  mode_t fMask = 022;
+};
+
+Outcome Strake(const std::vector<std::string>& words);
+// "strake collect", with the modules of the tests.
+Outcome CollectHostile(std::vector<std::string> words);
+
+std::string HostileModule();
+std::string RefusingModule();
+
+}  // namespace strake::tests

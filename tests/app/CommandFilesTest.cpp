@@ -1,0 +1,252 @@
+// What the command does to files, and how it refuses and fails.
+#include "tests/app/Command.h"
+#include "tests/app/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+namespace strake::tests {
+namespace {
+
+namespace fs = std::filesystem;
+using Names = std::set<std::string>;
+
+const std::string kServer = R"({"format": "strake-server/1", "sp": {"kind": "none"}})";
+
+bool IsOneLine(const std::string& text) {
+  return !text.empty() && text.find('\n') == text.size() - 1;
+}
+
+class CommandFilesTest : public testing::Test {
+ protected:
+  CommandFilesTest() {
+    for (const std::string name : {"report", "trace", "log"}) {
+      fOutputs.push_back(fFolder.Write(name, "old " + name));
+    }
+  }
+
+  // "strake collect" with all three outputs.
+  [[nodiscard]] Outcome Collect(std::vector<std::string> words) const {
+    words.insert(words.begin(), {"collect", "--output", fOutputs[0], "--trace", fOutputs[1],
+                                 "--log", fOutputs[2]});
+    return Strake(words);
+  }
+
+  void ExpectUntouched(const Names& more = {}) const {
+    Names names = {"report", "trace", "log"};
+    names.insert(more.begin(), more.end());
+    EXPECT_EQ(fFolder.Names(), names);
+    for (const std::string& output : fOutputs) {
+      EXPECT_EQ(ReadFile(output), "old " + fs::path(output).filename().string());
+    }
+  }
+
+  // One line on standard error that begins so, nothing else, no file touched.
+  void ExpectEnd(const Outcome& outcome, int status, const std::string& beginning,
+                 const Names& more = {}) const {
+    EXPECT_EQ(outcome.status, status);
+    EXPECT_EQ(outcome.out, "");
+    EXPECT_EQ(outcome.err.substr(0, beginning.size()), beginning);
+    EXPECT_TRUE(IsOneLine(outcome.err)) << outcome.err;
+    ExpectUntouched(more);
+  }
+
+  TemporaryFolder fFolder;
+  std::vector<std::string> fOutputs;
+};
+
+TEST_F(CommandFilesTest, RefusesADescriptionThatIsNoneAndTouchesNothing) {
+  struct Case {
+    const char* what;
+    std::string text;
+  };
+  const std::vector<Case> cases = {
+      {"empty", ""},
+      {"truncated", kServer.substr(0, kServer.size() / 2)},
+      {"no JSON", "format = strake-server/1\n"},
+      {"wrong type", R"({"format": "strake-server/1", "sp": {"kind": "orlo", "count": "2"}})"},
+      {"duplicate key", R"({"format": "strake-server/1", "sp": {"kind": "none", "kind": "none"}})"},
+      {"control bytes", "{\"\x1b[31m\n\": 1}"},
+  };
+  for (const Case& one : cases) {
+    SCOPED_TRACE(one.what);
+    const std::string server = fFolder.Write("s", one.text);
+    ExpectEnd(Collect({"--server", server}), 2, "strake: " + server + ":", {"s"});
+    ExpectEnd(Strake({"check", server}), 2, "strake: " + server + ":", {"s"});
+  }
+}
+
+TEST_F(CommandFilesTest, RefusesADescriptionThatCannotBeRead) {
+  const std::string absent = fFolder / "absent";
+  ExpectEnd(Collect({"--server", absent}), 2,
+            "strake: " + absent + ": cannot be read: No such file or directory");
+  ExpectEnd(Collect({"--server", fFolder.Path()}), 2, "strake: " + fFolder.Path().string() + ":");
+  if (::geteuid() != 0) {  // root reads everything
+    const std::string closed = fFolder.Write("closed", kServer);
+    fs::permissions(closed, fs::perms::none);
+    ExpectEnd(Collect({"--server", closed}), 2,
+              "strake: " + closed + ": cannot be read:", {"closed"});
+  }
+}
+
+TEST_F(CommandFilesTest, RefusesADescriptionOfAHundredMegabytes) {
+  const std::string huge = fFolder.Write("huge", kServer);
+  fs::resize_file(huge, std::uintmax_t{100} * 1000 * 1000);
+  ExpectEnd(Collect({"--server", huge}), 2, "strake: " + huge + ":", {"huge"});
+  ExpectEnd(Strake({"check", huge}), 2, "strake: " + huge + ":", {"huge"});
+}
+
+TEST_F(CommandFilesTest, RefusesWrongUsageAndTouchesNothing) {
+  ExpectEnd(Collect({"--class", "VELKSG_Unknown"}), 2,
+            "strake: --class: there is no class 'VELKSG_Unknown', expected one of ");
+  ExpectEnd(Collect({"--class", "two\nlines"}), 2,
+            "strake: --class: there is no class 'two\\nlines'");
+  ExpectEnd(Collect({"--format", "xml"}), 2, "strake: --format: there is no format 'xml'");
+  ExpectEnd(Strake({}), 2, "strake: A subcommand is required");
+}
+
+TEST_F(CommandFilesTest, RefusesOutputsThatAreOneFileOrAnInput) {
+  const std::string server = fFolder.Write("s", kServer);
+  const auto refusal = [](const std::string& options, const std::string& file) {
+    return "strake: " + options + ": both are the file " + file + "\n";
+  };
+  const std::string file = fFolder / "new";
+  fs::create_symlink("new", fFolder / "link");
+  const Names more = {"s", "link"};
+  ExpectEnd(Strake({"collect", "--trace", file, "--log", fFolder / "link"}), 2,
+            refusal("--trace and --log", fFolder / "link"), more);
+  ExpectEnd(Strake({"collect", "--output", file, "--trace", file}), 2,
+            refusal("--output and --trace", file), more);
+  ExpectEnd(Strake({"collect", "--trace", "/dev/stdout"}), 2,
+            refusal("the report and --trace", "/dev/stdout"), more);
+  ExpectEnd(Strake({"collect", "--server", server, "--output", server}), 2,
+            refusal("--server and --output", server), more);
+  EXPECT_EQ(ReadFile(server), kServer);
+}
+
+TEST_F(CommandFilesTest, FailsOverAModuleThatCannotBeLoadedAndTouchesNothing) {
+  const std::string text = fFolder.Write("text.so", "no module");
+  const Names more = {"text.so"};
+  const std::string absent = fFolder / "absent.so";
+  ExpectEnd(Collect({"--plugin", absent}), 1, "strake: " + absent + ": there is no such", more);
+  ExpectEnd(Collect({"--plugin", text}), 1, "strake: " + text + ": is not a loadable module", more);
+  const std::string library = STRAKE_BINARY_DIR "/lib/libstrake_hostcore.so";
+  ExpectEnd(Collect({"--plugin", library}), 1,
+            "strake: " + library + ": the module lacks the entry \"StrakeModuleEntry\"\n", more);
+  ExpectEnd(Collect({"--plugin", RefusingModule()}), 1,
+            "strake: the module's entry reports a failure\n", more);
+}
+
+TEST_F(CommandFilesTest, RefusesTheInputBeforeItLooksAtTheModule) {
+  ExpectEnd(Collect({"--server", fFolder / "absent", "--plugin", fFolder / "absent"}), 2,
+            "strake: " + (fFolder / "absent") + ": cannot be read");
+}
+
+TEST_F(CommandFilesTest, FailsOverAnOutputThatCannotBeWritten) {
+  const std::string beyond = fFolder / "absent/file";
+  for (const std::string option : {"--output", "--trace", "--log"}) {
+    ExpectEnd(Strake({"collect", option, beyond}), 1,
+              "strake: cannot write " + beyond + ": No such file or directory\n");
+    const std::string folder = fFolder.Path();
+    ExpectEnd(Strake({"collect", option, folder}), 1,
+              "strake: cannot write " + folder + ": Is a directory\n");
+    ExpectEnd(Strake({"collect", option, "/dev/full"}), 1,
+              "strake: cannot write /dev/full: No space left on device\n");
+  }
+}
+
+TEST_F(CommandFilesTest, NoticesThatStandardOutputTakesNothing) {
+  const std::string server = fFolder.Write("s", kServer);
+  for (const std::vector<std::string>& words :
+       {std::vector<std::string>{"collect", "--server", server},
+        {"check", server},
+        {"--help"},
+        {"--version"}}) {
+    EXPECT_EQ(
+        Command(words).StandardOutput("/dev/full").Run(),
+        (Outcome{1, "", "strake: cannot write to standard output: No space left on device\n"}));
+    EXPECT_EQ(Command(words).StandardOutput("").Run(),
+              (Outcome{1, "", "strake: cannot write to standard output: Bad file descriptor\n"}));
+  }
+}
+
+TEST_F(CommandFilesTest, DoesNotMistakeAFileForAClosedStandardOutput) {
+  const std::string server = fFolder.Write("s", kServer);
+  EXPECT_EQ(Command({"collect", "--server", server, "--trace", fFolder / "t"})
+                .StandardOutput("")
+                .Run()
+                .status,
+            1);
+  EXPECT_EQ(ReadFile(fFolder / "t").find("strake-report"), std::string::npos);
+  EXPECT_EQ(
+      Command({"collect", "--server", server, "--output", fFolder / "o"}).StandardOutput("").Run(),
+      (Outcome{0, "", ""}));
+}
+
+TEST_F(CommandFilesTest, EndsARunWhoseQueryThrowsAndKeepsItsTrail) {
+  struct Case {
+    std::string className;
+    std::string message;
+    std::string traced;
+  };
+  const std::vector<Case> cases = {
+      {"text", "query 2 ended with an exception: two\\nlines", "two\\u000Alines"},
+      {"own", "query 2 ended with an exception: the module's own", "the module's own"},
+      {"number", "query 2 ended with an exception that does not say what it is",
+       "unknown exception"},
+  };
+  for (const Case& one : cases) {
+    for (const std::string& output : fOutputs) {
+      std::ofstream(output) << "old " + fs::path(output).filename().string();
+    }
+    const Outcome outcome =
+        Collect({"--plugin", HostileModule(), "--query", "VELKSG_SP_ComputerSystem", "--query",
+                 one.className, "--query", ""});
+    EXPECT_EQ(outcome, (Outcome{1, "", "strake: " + one.message + "\n"}));
+    EXPECT_EQ(ReadFile(fOutputs[0]), "old report");
+    EXPECT_EQ(ReadFile(fOutputs[2]), "[1] hello\\nsecond line\\x1B\n");
+    const std::string trace = ReadFile(fOutputs[1]);
+    const std::string end = "{\"event\":\"query_end\",\"throws\":\"" + one.traced + "\"}\n";
+    EXPECT_EQ(trace.substr(trace.size() - std::min(trace.size(), end.size())), end);
+    EXPECT_EQ(fFolder.Names(), (Names{"report", "trace", "log"}));
+  }
+}
+
+TEST_F(CommandFilesTest, NamesTheHostsAssertion) {
+  const Outcome outcome = CollectHostile({"--query", "VELKSG_Unheard", "--log-level", "0"});
+  EXPECT_EQ(outcome.status, 1);
+  EXPECT_EQ(outcome.out, "");
+  EXPECT_EQ(outcome.err.find("strake: query 1 ended with an exception: px != 0 failed in "), 0U);
+  EXPECT_NE(outcome.err.find(", line 315\n"), std::string::npos);
+  EXPECT_TRUE(IsOneLine(outcome.err));
+}
+
+TEST_F(CommandFilesTest, ClosesToOthersWhatCanHoldSecrets) {
+  const std::string server = fFolder.Write("s", kServer);
+  for (const std::string& output : fOutputs) {
+    fs::remove(output);
+  }
+  const std::vector<std::string> words = {"collect", "--server",  server,  "--output", fOutputs[0],
+                                          "--trace", fOutputs[1], "--log", fOutputs[2]};
+  EXPECT_EQ(Command(words).Mask(0).Run(), (Outcome{0, "", ""}));
+  EXPECT_EQ(ModeOf(fOutputs[0]), 0666U);
+  EXPECT_EQ(ModeOf(fOutputs[1]), 0600U);
+  EXPECT_EQ(ModeOf(fOutputs[2]), 0600U);
+  EXPECT_EQ(Command(words).Mask(027).Run(), (Outcome{0, "", ""}));
+  EXPECT_EQ(ModeOf(fOutputs[0]), 0640U);
+  std::vector<std::string> clear = words;
+  clear.emplace_back("--show-secrets");
+  EXPECT_EQ(Command(clear).Mask(0).Run(), (Outcome{0, "", ""}));
+  EXPECT_EQ(ModeOf(fOutputs[0]), 0600U);
+}
+
+TEST_F(CommandFilesTest, WritesTheSameReportToAFileAsToStandardOutput) {
+  const std::string server = fFolder.Write("s", kServer);
+  const Outcome printed = Strake({"collect", "--server", server});
+  EXPECT_EQ(printed.status, 0);
+  EXPECT_EQ(Collect({"--server", server}), (Outcome{0, "", ""}));
+  EXPECT_EQ(ReadFile(fOutputs[0]), printed.out);
+}
+
+}  // namespace
+}  // namespace strake::tests

@@ -1,0 +1,227 @@
+// The command from outside: what it prints and how it ends.
+#include "tests/app/Command.h"
+#include "tests/app/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+
+namespace strake::tests {
+namespace {
+
+const std::string kServer = R"({"format": "strake-server/1", "description": "One card",
+ "sp": {"kind": "orlo", "components": {"4.1.3.1.255": 1}, "instances": [{"dot_commands": {
+   "1.1": "01", "4.4.1": "0A 06 0F 00 0D 2D 1E", "4.4.2": "88 FF",
+   "4.1.3.1.255": {"elements": [
+     {"data": "02"}, {"text": "555-0100"}, {"text": "Pager"}, {"data": "01"}, {"text": "ID"},
+     {"text": "hunter2"}, {"text": "1234"}, {"text": ""}, {"text": ""}, {"text": "ppp"},
+     {"data": "01"}]}}}]}})";
+
+const std::string kSystemTable = R"(rack7.server.json (orlo): One card
+
+Service processor 1
+
+  Computer system (VELKSG_SP_ComputerSystem)
+    Name     SRV1:Node1
+    SPClock  2010-06-15 13:45:30 UTC-02:00
+
+1 instance, 1 query, 1 service processor
+)";
+
+const std::string kServerJson =
+    "{\n  \"format\": \"strake-report/1\",\n"
+    "  \"server\": {\"name\": \"rack7.server.json\", \"description\": \"One card\", "
+    "\"kind\": \"orlo\"},\n  \"instances\": [";
+
+const std::string kSystemJson =
+    kServerJson +
+    "\n    {\"class\": \"VELKSG_SP_ComputerSystem\", \"properties\": "
+    "{\"CreationClassName\": \"VELKSG_SP_ComputerSystem\", \"SourceNode\": 1, "
+    "\"Name\": \"SRV1:Node1\", \"SPClock\": \"20100615134530.000000-120\"}}\n  ]\n}\n";
+
+const std::string kNoInstancesJson = kServerJson + "]\n}\n";
+
+class CommandTest : public testing::Test {
+ protected:
+  // "strake collect" of the small server.
+  [[nodiscard]] Outcome Collect(std::vector<std::string> words) const {
+    words.insert(words.begin(), {"collect", "--server", fServer});
+    return Strake(words);
+  }
+
+  // The queries as the trace tells them.
+  [[nodiscard]] std::string QueriesOf(std::vector<std::string> words) const {
+    words.insert(words.end(), {"--trace", fFolder / "trace", "--output", "/dev/null"});
+    EXPECT_EQ(Collect(words), (Outcome{0, "", ""}));
+    std::string queries;
+    std::istringstream lines(ReadFile(fFolder / "trace"));
+    for (std::string line; std::getline(lines, line);) {
+      if (line.find("\"event\":\"query\"") != std::string::npos) {
+        queries += line.substr(line.find('[')) + "\n";
+      }
+    }
+    return queries;
+  }
+
+  TemporaryFolder fFolder;
+  std::string fServer = fFolder.Write("rack7.server.json", kServer);
+};
+
+TEST_F(CommandTest, PrintsATableOfWhatItCollected) {
+  EXPECT_EQ(Collect({"--class", "VELKSG_SP_ComputerSystem"}), (Outcome{0, kSystemTable, ""}));
+}
+
+TEST_F(CommandTest, PrintsJsonOfWhatItCollected) {
+  EXPECT_EQ(Collect({"--class", "VELKSG_SP_ComputerSystem", "--format", "json"}),
+            (Outcome{0, kSystemJson, ""}));
+}
+
+TEST_F(CommandTest, AsksForAllClassesInFourQueries) {
+  EXPECT_EQ(
+      QueriesOf({}),
+      "[\"VELKSG_ServProc_IPProtocolEndpoint\",\"VELKSG_ServProc_IPProtocolEndpoint2\"]}\n"
+      "[\"VELKSG_ServProc_DialProtocolEndpoint1\",\"VELKSG_ServProc_DialProtocolEndpoint2\","
+      "\"VELKSG_ServProc_DialProtocolEndpoint3\",\"VELKSG_ServProc_DialProtocolEndpoint4\"]}\n"
+      "[\"VELKSG_SP_NumericSensor\"]}\n[\"VELKSG_SP_ComputerSystem\"]}\n");
+}
+
+TEST_F(CommandTest, AsksForClassesInTheSystemsOrderAndForListsInTheirs) {
+  EXPECT_EQ(QueriesOf({"--class", "VELKSG_SP_ComputerSystem", "--class", "VELKSG_SP_NumericSensor",
+                       "--class", "VELKSG_SP_ComputerSystem"}),
+            "[\"VELKSG_SP_NumericSensor\"]}\n[\"VELKSG_SP_ComputerSystem\"]}\n");
+  EXPECT_EQ(QueriesOf({"--query", "VELKSG_SP_ComputerSystem,Unheard", "--query", "", "--query",
+                       "VELKSG_SP_ComputerSystem,Unheard"}),
+            "[\"VELKSG_SP_ComputerSystem\",\"Unheard\"]}\n[]}\n"
+            "[\"VELKSG_SP_ComputerSystem\",\"Unheard\"]}\n");
+}
+
+TEST_F(CommandTest, ReportsThatAQueryForNothingBroughtNothing) {
+  EXPECT_EQ(Collect({"--query", "", "--format", "json"}), (Outcome{0, kNoInstancesJson, ""}));
+  EXPECT_EQ(Collect({"--query", ""}).out,
+            "rack7.server.json (orlo): One card\n\nNo instances were collected.\n"
+            "0 instances, 1 query, 0 service processors\n");
+}
+
+TEST_F(CommandTest, WarnsOfEqualKeysBesideTheReport) {
+  const std::string warning =
+      "2 instances of VELKSG_SP_ComputerSystem have equal keys: "
+      "CreationClassName=VELKSG_SP_ComputerSystem, SourceNode=1, Name=SRV1:Node1\n";
+  const std::vector<std::string> twice = {"--query", "VELKSG_SP_ComputerSystem", "--query",
+                                          "VELKSG_SP_ComputerSystem"};
+  const Outcome table = Collect(twice);
+  EXPECT_EQ(table.status, 0);
+  EXPECT_EQ(table.err, "");
+  EXPECT_EQ(table.out.substr(table.out.find("2 instances, ")),
+            "2 instances, 2 queries, 1 service processor\nWarning: " + warning);
+  const Outcome json = Collect({twice[0], twice[1], twice[2], twice[3], "--format", "json"});
+  EXPECT_EQ(json.status, 0);
+  EXPECT_EQ(json.err, "strake: warning: " + warning);
+}
+
+TEST_F(CommandTest, MasksSecretsUnlessAskedNotTo) {
+  for (const std::string format : {"table", "json"}) {
+    const std::vector<std::string> words = {"--class", "VELKSG_ServProc_DialProtocolEndpoint1",
+                                            "--format", format};
+    const Outcome masked = Collect(words);
+    EXPECT_EQ(masked.status, 0);
+    EXPECT_EQ(masked.out.find("hunter2"), std::string::npos);
+    EXPECT_EQ(masked.out.find("1234"), std::string::npos);
+    EXPECT_NE(masked.out.find("********"), std::string::npos);
+    const Outcome clear = Collect({words[0], words[1], words[2], words[3], "--show-secrets"});
+    EXPECT_NE(clear.out.find("hunter2"), std::string::npos);
+    EXPECT_NE(clear.out.find("1234"), std::string::npos);
+    EXPECT_EQ(clear.out.find("********"), std::string::npos);
+  }
+}
+
+TEST_F(CommandTest, WritesLogLinesUpToTheirLevel) {
+  const std::vector<std::string> words = {"--query", "", "--output", "/dev/null", "--log-level"};
+  const auto logOf = [&](const std::string& level) {
+    std::vector<std::string> all = {"collect", "--plugin", HostileModule(), "--log-level", level};
+    all.insert(all.end(), words.begin(), words.end() - 1);
+    return Strake(all).err;
+  };
+  EXPECT_EQ(logOf("0"), "");
+  EXPECT_EQ(logOf("1"), "[1] hello\\nsecond line\\x1B\n");
+  EXPECT_EQ(logOf("2"), "[1] hello\\nsecond line\\x1B\n[2] goodbye\n");
+}
+
+TEST_F(CommandTest, WritesAllLogLinesToALogFile) {
+  EXPECT_EQ(Collect({"--query", "", "--log", fFolder / "log"}).err, "");
+  const std::string log = ReadFile(fFolder / "log");
+  EXPECT_NE(log.find("[3] Strake plugin begin execution.\n"), std::string::npos);
+  EXPECT_NE(log.find("[4] TSPEnviron destructor entered.\n"), std::string::npos);
+  EXPECT_NE(log.find("[3] fSP_ComputerSystem = 0\\nfServProc_IPProtocolEndpoint2 = 0\\n"),
+            std::string::npos);
+}
+
+TEST_F(CommandTest, TracesInitializeAndDeinitializeAroundTheQueries) {
+  EXPECT_EQ(CollectHostile({"--query", "", "--trace", fFolder / "trace", "--output", "/dev/null",
+                            "--log-level", "0"}),
+            (Outcome{0, "", ""}));
+  EXPECT_EQ(ReadFile(fFolder / "trace"),
+            "{\"event\":\"log\",\"level\":1,\"message\":\"hello\\u000Asecond line\\u001B\"}\n"
+            "{\"event\":\"query\",\"classes\":[]}\n{\"event\":\"query_end\"}\n"
+            "{\"event\":\"log\",\"level\":2,\"message\":\"goodbye\"}\n");
+}
+
+TEST_F(CommandTest, ShowsNothingThatATerminalWouldObey) {
+  const Outcome outcome =
+      CollectHostile({"--class", "VELKSG_SP_ComputerSystem", "--log-level", "0"});
+  EXPECT_EQ(outcome.status, 0);
+  EXPECT_NE(outcome.out.find("    Name  \\x1B[31mred\\n\\xFF\n"), std::string::npos);
+}
+
+TEST_F(CommandTest, ColoursHeadingsOnATerminalOnly) {
+  const std::vector<std::string> words = {"collect", "--server", fServer, "--class",
+                                          "VELKSG_SP_ComputerSystem"};
+  std::string coloured = kSystemTable;
+  for (const std::string heading : {"rack7.server.json (orlo): One card", "Service processor 1",
+                                    "Computer system (VELKSG_SP_ComputerSystem)"}) {
+    coloured.replace(coloured.find(heading), heading.size(), "\x1b[1m" + heading + "\x1b[0m");
+  }
+  EXPECT_EQ(Command(words).Environment("TERM=xterm").RunOnTerminal(), (Outcome{0, coloured, ""}));
+  EXPECT_EQ(Command(words).Environment("TERM=xterm").Environment("NO_COLOR=").RunOnTerminal(),
+            (Outcome{0, coloured, ""}));
+  EXPECT_EQ(Command(words).Environment("TERM=xterm").Environment("NO_COLOR=1").RunOnTerminal(),
+            (Outcome{0, kSystemTable, ""}));
+  EXPECT_EQ(Command(words).Environment("TERM=dumb").RunOnTerminal(),
+            (Outcome{0, kSystemTable, ""}));
+  EXPECT_EQ(Command(words).Environment("TERM=xterm").Run(), (Outcome{0, kSystemTable, ""}));
+}
+
+TEST_F(CommandTest, CollectsBothDemonstrationServers) {
+  for (const std::string demo : {"demo-orlo", "demo-tavit"}) {
+    const Outcome outcome = Strake({"collect", "--demo", demo, "--log-level", "0"});
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(outcome.err, "");
+    EXPECT_EQ(outcome.out.substr(0, demo.size()), demo);
+  }
+  EXPECT_EQ(Strake({"collect"}).out, Strake({"collect", "--demo", "demo-orlo"}).out);
+}
+
+TEST_F(CommandTest, FindsAServiceProcessorThatDoesNotAnswerNoError) {
+  const std::string silent = fFolder.Write(
+      "silent", R"({"format": "strake-server/1", "sp": {"kind": "orlo", "communicates": false}})");
+  const Outcome outcome =
+      Strake({"collect", "--server", silent, "--class", "VELKSG_SP_ComputerSystem"});
+  EXPECT_EQ(outcome, (Outcome{0,
+                              "silent (orlo)\n\nNo instances were collected.\n"
+                              "0 instances, 1 query, 0 service processors\n",
+                              "[0] Could not communicate with Orlo card.\n"}));
+}
+
+TEST_F(CommandTest, ChecksADescription) {
+  EXPECT_EQ(Strake({"check", fServer}),
+            (Outcome{0, fServer + " is fine: kind orlo, 1 service processor; One card\n", ""}));
+}
+
+TEST_F(CommandTest, PrintsHelpAndVersionOnStandardOutput) {
+  EXPECT_EQ(Strake({"--version"}).status, 0);
+  EXPECT_EQ(Strake({"--version"}).err, "");
+  const Outcome help = Strake({"collect", "--help"});
+  EXPECT_EQ(help.status, 0);
+  EXPECT_NE(help.out.find("Examples:\n"), std::string::npos);
+  EXPECT_EQ(help.err, "");
+}
+
+}  // namespace
+}  // namespace strake::tests

@@ -1,0 +1,96 @@
+// A host that loads and detaches the module again and again keeps the memory it
+// had, the objects that are left alive on purpose aside.
+#include "platform/session/HostSession.h"
+#include "platform/session/PluginModule.h"
+#include "plugin/frame/TStrakePluginCallbacks.h"
+#include "tests/support/Allocations.h"
+#include "tests/support/Scenario.h"
+
+#include <filesystem>
+#include <gtest/gtest.h>
+#include <iostream>
+#include <malloc.h>
+
+namespace strake::tests {
+namespace {
+
+constexpr int kWarmUp = 10;
+constexpr int kRounds = 1000;
+
+const std::filesystem::path kModule = std::filesystem::path(STRAKE_BINARY_DIR) / "lib/strake.so";
+
+// What freed blocks leave in the C library's caches may differ from round to
+// round; it must not grow with them.
+constexpr std::size_t kCaches = 16384;
+
+bool CountsHeap() {
+#if defined(__SANITIZE_ADDRESS__)
+  return false;
+#elif defined(__has_feature)
+#if __has_feature(address_sanitizer)
+  return false;
+#endif
+#endif
+  return true;
+}
+
+// The bytes that an object takes.
+long BytesOf(std::size_t size) {
+  const long before = Allocations::LiveBytes();
+  void* const block = ::operator new(size);
+  const long taken = Allocations::LiveBytes() - before;
+  ::operator delete(block);
+  return taken;
+}
+
+// Runs the rounds and expects `blocks` of `size` bytes to be left by each
+// behind the warm-up.
+template <typename Round>
+void ExpectLeft(Round round, long blocks, std::size_t size) {
+  long live = 0;
+  long bytes = 0;
+  std::size_t heap = 0;
+  for (int i = 1; i <= kRounds; ++i) {
+    round();
+    if (i == kWarmUp) {
+      live = Allocations::Live();
+      bytes = Allocations::LiveBytes();
+      heap = mallinfo2().uordblks;
+    }
+  }
+  const long left = blocks * (kRounds - kWarmUp);
+  EXPECT_EQ(Allocations::Live() - live, left);
+  EXPECT_EQ(Allocations::LiveBytes() - bytes, left * BytesOf(size));
+  if (CountsHeap()) {
+    const auto header = static_cast<long>(sizeof(std::size_t));
+    EXPECT_LE(mallinfo2().uordblks - heap,
+              static_cast<std::size_t>(left * (BytesOf(size) + header)) + kCaches);
+  }
+  std::cout << left << " objects of " << size << " bytes are left\n";
+}
+
+TEST(Load, AThousandLoadsAndDetachesLeaveOnlyThePresenceTestCommands) {
+  const Scenario scenario = Scenario::Orlo(2);
+  const auto round = [&scenario] {
+    const platform::PluginModule module(kModule);
+    platform::HostSession session(scenario.server);
+    session.Attach(module.Entry());
+    session.Initialize();
+    session.Query({"VELKSG_SP_ComputerSystem"});
+    session.Deinitialize();
+    session.Detach();
+  };
+  ExpectLeft(round, 2, sizeof(dotCmd));
+}
+
+TEST(Load, ADetachWithoutDestroyLeavesTheObjectAliveAndNothingElse) {
+  const auto round = [] {
+    const platform::PluginModule module(kModule);
+    EXPECT_EQ(module.Entry()(1), 1);
+    EXPECT_EQ(module.Entry()(0), 1);
+  };
+  ExpectLeft(round, 1, sizeof(TStrakePluginCallbacks));
+}
+
+}  // namespace
+}  // namespace strake::tests

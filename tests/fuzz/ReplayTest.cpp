@@ -1,0 +1,59 @@
+// Every input of the corpus, once: what the fuzzers start from and what they
+// found before.
+#include "fuzz/Harnesses.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <iostream>
+#include <iterator>
+#include <string>
+#include <vector>
+
+namespace strake::tests {
+namespace {
+
+namespace fs = std::filesystem;
+
+struct Harness {
+  const char* name;  // of its folder too
+  int (*run)(const std::uint8_t* data, std::size_t size);
+};
+
+class Corpus : public testing::TestWithParam<Harness> {
+ protected:
+  static std::vector<fs::path> Files() {
+    const fs::path folder = fs::path(STRAKE_SOURCE_DIR) / "fuzz" / "corpus" / GetParam().name;
+    std::vector<fs::path> files;
+    for (const fs::directory_entry& entry : fs::directory_iterator(folder)) {
+      files.push_back(entry.path());
+    }
+    std::ranges::sort(files);
+    return files;
+  }
+};
+
+TEST_P(Corpus, EveryInputRunsThroughItsHarness) {
+  const std::vector<fs::path> files = Files();
+  ASSERT_GE(files.size(), 20U);
+  for (const fs::path& file : files) {
+    // A harness that finds something ends the process; its last line says where.
+    std::cout << file.filename().string() << '\n' << std::flush;
+    std::ifstream in(file, std::ios::binary);
+    ASSERT_TRUE(in);
+    const std::vector<std::uint8_t> bytes(std::istreambuf_iterator<char>(in), {});
+    EXPECT_EQ(GetParam().run(bytes.data(), bytes.size()), 0);
+  }
+}
+
+TEST_P(Corpus, NoBytesAreAnInputToo) { EXPECT_EQ(GetParam().run(nullptr, 0), 0); }
+
+INSTANTIATE_TEST_SUITE_P(Of, Corpus,
+                         testing::Values(Harness{"query", fuzz::FuzzQuery},
+                                         Harness{"walk", fuzz::FuzzWalk},
+                                         Harness{"description", fuzz::FuzzDescription}),
+                         [](const auto& info) { return std::string(info.param.name); });
+
+}  // namespace
+}  // namespace strake::tests

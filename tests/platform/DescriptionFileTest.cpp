@@ -1,0 +1,95 @@
+#include "platform/server/ServerDescription.h"
+
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <string>
+#include <unistd.h>
+
+namespace strake::platform {
+namespace {
+
+class DescriptionFileTest : public testing::Test {
+ protected:
+  DescriptionFileTest()
+      : folder(std::filesystem::path(testing::TempDir()) /
+               ("description-files-" + std::to_string(getpid()))) {
+    std::filesystem::create_directories(folder);
+  }
+  ~DescriptionFileTest() override { std::filesystem::remove_all(folder); }
+
+  std::filesystem::path Write(const std::string& name, const std::string& text) const {
+    std::ofstream(folder / name, std::ios::binary) << text;
+    return folder / name;
+  }
+
+  std::filesystem::path folder;
+};
+
+std::string RefusalOf(const std::filesystem::path& file) {
+  try {
+    ReadServerDescription(file);
+  } catch (const DescriptionError& error) {
+    return error.what();
+  }
+  return "taken";
+}
+
+TEST_F(DescriptionFileTest, IsReadWhole) {
+  const auto file =
+      Write("a.server.json", R"({"format":"strake-server/1","description":")" +
+                                 std::string(200000, 'd') + R"(","sp":{"kind":"tavit"}})" + "\n");
+  EXPECT_EQ(ReadServerDescription(file).description.size(), 200000U);
+}
+
+TEST_F(DescriptionFileTest, IsNamedWhenItIsMissing) {
+  const auto file = folder / "missing.json";
+  EXPECT_EQ(RefusalOf(file), file.string() + ": cannot be read: No such file or directory");
+}
+
+TEST_F(DescriptionFileTest, IsNamedWhenItIsADirectory) {
+  EXPECT_EQ(RefusalOf(folder), folder.string() + ": cannot be read: Is a directory");
+}
+
+// Root may read everything, so it steps down for a while.
+class StepDown {
+ public:
+  StepDown() : fUser(geteuid()) {
+    if (fUser == 0) {
+      EXPECT_EQ(seteuid(kNobody), 0);
+    }
+  }
+  StepDown(const StepDown&) = delete;
+  StepDown& operator=(const StepDown&) = delete;
+  ~StepDown() { EXPECT_EQ(seteuid(fUser), 0); }
+
+ private:
+  static constexpr uid_t kNobody = 65534;
+  uid_t fUser;
+};
+
+TEST_F(DescriptionFileTest, IsNamedWhenItMayNotBeRead) {
+  const auto file = Write("secret.json", "{}");
+  std::filesystem::permissions(file, std::filesystem::perms::none);
+  const StepDown user;
+  EXPECT_EQ(RefusalOf(file), file.string() + ": cannot be read: Permission denied");
+}
+
+TEST_F(DescriptionFileTest, IsNamedWhenItIsEmpty) {
+  const auto file = Write("empty.json", "");
+  EXPECT_TRUE(RefusalOf(file).starts_with(file.string() + ": line 1, column 1: "))
+      << RefusalOf(file);
+}
+
+TEST_F(DescriptionFileTest, IsRefusedWhenItIsHuge) {
+  const auto file = Write("huge.json", "");
+  std::filesystem::resize_file(file, 100'000'000);
+  EXPECT_EQ(RefusalOf(file), file.string() + ": expected at most 16777216 bytes, got more");
+}
+
+TEST_F(DescriptionFileTest, IsRefusedWhenItNeverEnds) {
+  EXPECT_EQ(RefusalOf("/dev/zero"), "/dev/zero: expected at most 16777216 bytes, got more");
+}
+
+}  // namespace
+}  // namespace strake::platform

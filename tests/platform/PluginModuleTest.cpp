@@ -1,0 +1,54 @@
+#include "platform/session/PluginModule.h"
+
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <string>
+#include <unistd.h>
+
+namespace strake::platform {
+namespace {
+
+class PluginModuleTest : public testing::Test {
+ protected:
+  PluginModuleTest()
+      : folder(std::filesystem::path(testing::TempDir()) /
+               ("plugin-modules-" + std::to_string(getpid()))) {
+    std::filesystem::create_directories(folder);
+  }
+  ~PluginModuleTest() override { std::filesystem::remove_all(folder); }
+
+  std::filesystem::path folder;
+};
+
+std::string RefusalOf(const std::filesystem::path& file) {
+  try {
+    const PluginModule module(file);
+  } catch (const SessionError& error) {
+    return error.what();
+  }
+  return "loaded";
+}
+
+TEST_F(PluginModuleTest, SaysThatTheFileIsMissing) {
+  const auto file = folder / "missing.so";
+  EXPECT_EQ(RefusalOf(file), file.string() + ": there is no such module file");
+}
+
+TEST_F(PluginModuleTest, SaysThatAFileIsNoModule) {
+  const auto file = folder / "text.so";
+  std::ofstream(file) << "This is a text, not a module, and long enough to hold a header.\n";
+  EXPECT_EQ(RefusalOf(file), file.string() + ": is not a loadable module: invalid ELF header");
+  std::ofstream(folder / "empty.so") << "";
+  EXPECT_EQ(RefusalOf(folder / "empty.so"),
+            (folder / "empty.so").string() + ": is not a loadable module: file too short");
+  EXPECT_TRUE(RefusalOf(folder).starts_with(folder.string() + ": is not a loadable module: "));
+}
+
+TEST_F(PluginModuleTest, SaysThatALibraryLacksTheEntry) {
+  const std::filesystem::path file = STRAKE_BINARY_DIR "/lib/libstrake_hostcore.so";
+  EXPECT_EQ(RefusalOf(file), file.string() + ": the module lacks the entry \"StrakeModuleEntry\"");
+}
+
+}  // namespace
+}  // namespace strake::platform
