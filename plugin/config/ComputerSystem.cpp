@@ -45,7 +45,7 @@ struct ClockReply {
 
 TZEVStatusCode TStrakePluginCallbacks::CreateVELKSGComputerSystem(
     boost::shared_ptr<ICIMNamespace> cimNamespace, std::string systemName, SPLibrary* spLib,
-    unsigned char sp) {
+    unsigned char sp) const {
   LogLevel4("CreateVELKSGComputerSystem() entered.");
   if (!fSP_ComputerSystem) {
     return TZEVStatusCode(kZEVSuccess);

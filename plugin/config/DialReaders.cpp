@@ -6,6 +6,8 @@
 #include "plugin/config/SharedIdentifiers.h"
 #include "plugin/frame/TStrakePluginCallbacks.h"
 
+#include <string_view>
+
 namespace strake {
 
 using NVELKZEV20::kZEVSuccess;
@@ -14,14 +16,14 @@ using NVELKZEV20::TZEVStatusCode;
 namespace {
 
 struct DialReader {
-  const char* name;
-  const char* noData;
+  std::string_view name;
+  std::string_view noData;
   InstanceKind kind;
   RecordLayout record;
-  bool isNumbered;  // the instance tells its number
+  bool isNumbered = false;  // the instance tells its number
   // The dial-out reader leaves without a word when its class is not wanted;
   // hosts tell it from the others by that.
-  bool completesUnwanted;
+  bool completesUnwanted = true;
 };
 
 constexpr DialReader kSerialPortReader = {

@@ -99,7 +99,7 @@ inline constexpr RecordLayout kAlertRecord = {.fields = kAlertFields, .tellsPlai
 
 // The authority word of a dial-in login: bit i belongs to name i, the bits
 // behind them to nobody.
-inline constexpr const char* kAuthorityLevels[] = {
+inline constexpr std::string_view kAuthorityLevels[] = {
     "DenyAlways",
     "Supervisor",
     "ReadOnly",

@@ -32,7 +32,7 @@ void PublishAuthority(const TStrakePluginCallbacks& callbacks, std::uint16_t aut
                       InstanceBuilder& instance) {
   callbacks.LogLevel4("Authority Levels value = ", authority);
   unsigned int bits = authority;
-  for (const char* const level : kAuthorityLevels) {
+  for (const std::string_view level : kAuthorityLevels) {
     instance.Set(level, (bits & 1U) != 0 ? kEnabledWhenSet.other : kEnabledWhenSet.zero);
     bits >>= 1U;
   }

@@ -4,6 +4,7 @@
 
 namespace strake {
 
+// NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): the library fills the buffers.
 DotCommandList::DotCommandList(const TStrakePluginCallbacks& callbacks,
                                NVELKZEV20::SPLibrary* spLib)
     : fSpLib(spLib),

@@ -18,6 +18,7 @@ class DotCommandList {
   DotCommandList(const TStrakePluginCallbacks& callbacks, NVELKZEV20::SPLibrary* spLib);
   DotCommandList(const DotCommandList&) = delete;
   DotCommandList& operator=(const DotCommandList&) = delete;
+  ~DotCommandList() = default;
 
   [[nodiscard]] bool IsBuilt() const { return fIsBuilt; }
   // How many instances of the component there are; -1 when that is not known.

@@ -8,7 +8,7 @@ namespace {
 
 void LogElement(const TStrakePluginCallbacks& callbacks, const RecordLayout& layout,
                 const RecordField& field, const ElementCursor& element) {
-  const char* const label = field.label != nullptr ? field.label : field.name;
+  const std::string_view label = field.label.empty() ? field.name : field.label;
   const bool isString = field.form != FieldForm::Plain;
   if (layout.tellsVectorIds) {
     callbacks.LogLevel4("[", label, "] Vector ID = ", element.VectorId(), " ", element.Header());

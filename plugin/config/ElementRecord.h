@@ -5,6 +5,7 @@
 #include "plugin/config/ValueDecoders.h"
 
 #include <span>
+#include <string_view>
 
 namespace strake {
 
@@ -18,11 +19,11 @@ enum class FieldForm {
 };
 
 struct RecordField {
-  const char* name;
-  FieldForm form;
-  ValueDecoder decode;
+  std::string_view name;
+  FieldForm form = FieldForm::Plain;
+  ValueDecoder decode = nullptr;
   bool isPublished = true;      // else it is only logged
-  const char* label = nullptr;  // what the bracketed lines call it; null: its name
+  std::string_view label = {};  // what the bracketed lines call it; empty: its name
 };
 
 struct RecordLayout {

@@ -6,12 +6,13 @@
 #include "plugin/frame/TStrakePluginCallbacks.h"
 
 #include <iterator>
+#include <string_view>
 
 namespace strake {
 namespace {
 
 struct DhcpValue {
-  const char* name;
+  std::string_view name;
   ValueDecoder decode;
 };
 

@@ -50,7 +50,7 @@ void InstanceBuilder::IdentifyAll() {
   }
 }
 
-void InstanceBuilder::Set(const char* name, const NVELKZEV20::TCIMValue& value) {
+void InstanceBuilder::Set(std::string_view name, const NVELKZEV20::TCIMValue& value) {
   fPropertyName = name;
   Deref(fInstance).SetProperty(fPropertyName, value, {});
 }

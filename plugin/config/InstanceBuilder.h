@@ -9,6 +9,7 @@
 #include <boost/shared_ptr.hpp>
 #include <span>
 #include <string>
+#include <string_view>
 
 namespace strake {
 
@@ -46,7 +47,7 @@ class InstanceBuilder {
 
   void Identify(IdentityProperty property);
   void IdentifyAll();  // in the kind's order
-  void Set(const char* name, const NVELKZEV20::TCIMValue& value);
+  void Set(std::string_view name, const NVELKZEV20::TCIMValue& value);
   void Commit();
 
  private:

@@ -9,6 +9,7 @@
 #include <array>
 #include <cstdint>
 #include <span>
+#include <string_view>
 
 namespace strake {
 namespace {
@@ -20,8 +21,8 @@ constexpr IdentityProperty kIdentity[] = {
 constexpr InstanceKind kSummary = {kIPProtocolEndpoint2, kIPProtocolEndpoint2, kIdentity};
 
 struct SummaryCommand {
-  std::uint32_t length;
-  std::array<unsigned char, 12> bytes;  // zeros past the length
+  std::uint32_t length = 0;
+  std::array<unsigned char, 12> bytes = {};  // zeros past the length
 
   [[nodiscard]] std::span<const unsigned char> Identifier() const {
     return std::span(bytes).first(length);
@@ -30,9 +31,9 @@ struct SummaryCommand {
 
 // A value that is a whole reply of its own.
 struct SummaryValue {
-  const char* name;
+  std::string_view name;
   SummaryCommand command;
-  ValueDecoder decode;
+  ValueDecoder decode = nullptr;
 };
 
 constexpr SummaryValue kValues[] = {
@@ -44,7 +45,7 @@ constexpr SummaryValue kValues[] = {
 };
 
 struct SummaryRecord {
-  const char* name;
+  std::string_view name;
   SummaryCommand command;
   RecordLayout layout;
 };

@@ -16,15 +16,15 @@ namespace strake {
 inline unsigned char NodeNumber(unsigned char sp) { return static_cast<unsigned char>(sp + 1); }
 
 struct ServiceProcessor {
-  ServiceProcessor(boost::shared_ptr<NVELKZEV20::ICIMNamespace> cimNamespace_,
-                   NVELKZEV20::SPLibrary* spLib_, std::string machineType_, std::string systemName_,
-                   unsigned char index_)
-      : cimNamespace(std::move(cimNamespace_)),
-        spLib(spLib_),
-        machineType(std::move(machineType_)),
-        systemName(std::move(systemName_)),
-        index(index_),
-        nodeName(MakeText(machineType, "-Node", NodeNumber(index_))),
+  ServiceProcessor(boost::shared_ptr<NVELKZEV20::ICIMNamespace> target,
+                   NVELKZEV20::SPLibrary* library, std::string MTM, std::string hostName,
+                   unsigned char sp)
+      : cimNamespace(std::move(target)),
+        spLib(library),
+        machineType(std::move(MTM)),
+        systemName(std::move(hostName)),
+        index(sp),
+        nodeName(MakeText(machineType, "-Node", NodeNumber(sp))),
         context(MakeContext()) {}
 
   // The identity of an instance of this SP, under the SP's own name or another.

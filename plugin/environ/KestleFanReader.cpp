@@ -5,6 +5,8 @@
 #include "plugin/environ/TSPEnviron.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <span>
 
 namespace strake {
 
@@ -29,7 +31,7 @@ TZEVStatusCode TSPEnviron::GetKestleFan(unsigned int kestleType) {
     } else if (kestleType > kBladeFamily) {
       LogLevel3("No matching Kestle_Type for ", kFanRequest.name);
     } else {
-      DecodeKestleFans(kKestleFans[kestleType], ByteView(reply));
+      DecodeKestleFans(std::span(kKestleFans)[kestleType], ByteView(reply));
     }
   }
   LogLevel4("GetKestleFan() completed.");
@@ -50,14 +52,15 @@ void TSPEnviron::DecodeKestleFans(const KestleFanLayout& layout, ByteView reply)
     LogLevel3(header.label, reply[header.byte]);
   }
   const std::size_t fans = std::min(calculated, std::size(kKestleFanNames));
-  for (std::uint16_t i = 0; i < fans; ++i) {
-    const std::size_t byte = layout.firstByte + 2U * i;
+  for (std::size_t i = 0; i < fans; ++i) {
+    const std::size_t byte = layout.firstByte + 2 * i;
+    const char* const name = std::span(kKestleFanNames)[i];
     // The diagnostic shows the byte counter, not the fan's number.
     LogLevel4("i = ", 2 * i, layout.highByteLabel, reply[byte] * 256, layout.lowByteLabel,
               reply[byte + 1]);
     const std::int32_t speed = reply.BigEndian16(byte);
-    LogLevel3(kKestleFanNames[i], " = ", speed);
-    fKestleFans.emplace_back(i, speed, kRevolutionsPerMinute, 0, kKestleFanNames[i]);
+    LogLevel3(name, " = ", speed);
+    fKestleFans.emplace_back(static_cast<std::uint16_t>(i), speed, kRevolutionsPerMinute, 0, name);
   }
 }
 

@@ -83,10 +83,11 @@ void TSPEnviron::DecodeKestleList(const KestleListReader& reader, unsigned int k
     LogLevel3("Did not obtain correct returnLength for ", family.family, " ", reader.request.name);
     return;
   }
-  for (std::uint16_t i = 0; i < family.names.size(); ++i) {
+  for (std::size_t i = 0; i < family.names.size(); ++i) {
     const std::int32_t reading = reader.decode(reply, family.firstByte, i);
     LogLevel3(family.names[i], " = ", reading);
-    records.emplace_back(i, reading, reader.baseUnits, reader.unitModifier, family.names[i]);
+    records.emplace_back(static_cast<std::uint16_t>(i), reading, reader.baseUnits,
+                         reader.unitModifier, family.names[i]);
   }
 }
 

@@ -58,14 +58,9 @@ inline constexpr const char* kTessilTemperatureNames[] = {
 // The second name is run together on purpose: hosts know sensor 1 of this
 // family by it, and the five names behind it belong to sensors 2 to 6.
 inline constexpr const char* kNembroTemperatureNames[] = {
-    "Ambient Temperature",
-    "Processor Area Temperature"
-    "PCI Area Temperature"
-    "CPU 1 Temperature",
-    "CPU 2 Temperature",
-    "CPU 3 Temperature",
-    "CPU 4 Temperature",
-    "DASD 1 Temperature",
+    "Ambient Temperature", "Processor Area TemperaturePCI Area TemperatureCPU 1 Temperature",
+    "CPU 2 Temperature",   "CPU 3 Temperature",
+    "CPU 4 Temperature",   "DASD 1 Temperature",
     "DASD 2 Temperature",
 };
 

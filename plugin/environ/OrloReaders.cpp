@@ -48,7 +48,7 @@ TZEVStatusCode TSPEnviron::GetOrloFans() { return ReadOrloSensors(kFanReader, fO
 TZEVStatusCode TSPEnviron::ReadOrloSensors(const OrloReader& reader,
                                            std::vector<SensorRecord>& records) {
   LogLevel4(reader.name, "() entered.");
-  for (std::uint16_t i = 0; i < reader.sensors.size(); ++i) {
+  for (std::size_t i = 0; i < reader.sensors.size(); ++i) {
     const OrloSensorEntry& sensor = reader.sensors[i];
     // Fresh zeros for every send: a reply that claims more bytes than it
     // brought must not show another sensor's.
@@ -63,7 +63,8 @@ TZEVStatusCode TSPEnviron::ReadOrloSensors(const OrloReader& reader,
     }
     const std::int32_t reading = reader.decode(ReceivedBytes(reply, length));
     LogLevel3(sensor.name, " = ", reading);
-    records.emplace_back(fNode, i, reading, reader.baseUnits, reader.unitModifier, sensor.name);
+    records.emplace_back(fNode, static_cast<std::uint16_t>(i), reading, reader.baseUnits,
+                         reader.unitModifier, sensor.name);
   }
   LogLevel4(reader.name, "() completed.");
   return TZEVStatusCode(kZEVSuccess);

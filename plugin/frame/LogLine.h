@@ -15,6 +15,12 @@ namespace strake {
 // "1". Other types join in with an AppendPart of their own.
 inline void AppendPart(std::string& text, std::string_view part) { text.append(part); }
 
+// A literal, whose length is known.
+template <std::size_t Size>
+void AppendPart(std::string& text, const char (&literal)[Size]) {
+  text.append(literal, Size - 1);
+}
+
 template <std::integral Number>
 requires(!std::same_as<Number, char>) void AppendPart(std::string& text, Number number) {
   char digits[std::numeric_limits<Number>::digits10 + 3];
@@ -45,12 +51,20 @@ std::string MakeText(const Parts&... parts) {
 // Hands a message to the host's core logger; an empty one is dropped.
 void WriteLogLine(int level, const std::string& message);
 
+// The line that is being put together. It keeps its memory from line to line,
+// for lines are most of what a query makes; there are no threads, and putting a
+// line together logs nothing.
+std::string& LineInTheMaking();
+
 // The logging core of every owner: nothing is built or written while the gate
 // (what registration returned) is null.
 template <typename... Parts>
 void LogLine(const void* gate, int level, const Parts&... parts) {
   if (gate != nullptr) {
-    WriteLogLine(level, MakeText(parts...));
+    std::string& line = LineInTheMaking();
+    line.clear();
+    (AppendPart(line, parts), ...);
+    WriteLogLine(level, line);
   }
 }
 

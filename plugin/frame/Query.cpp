@@ -20,9 +20,23 @@ using NVELKZEV20::SPLibrary;
 using NVELKZEV20::TOSSpecific;
 
 struct TStrakePluginCallbacks::Request {
-  const char* className;
-  const char* flagText;
+  std::string_view className;
+  std::string_view flagText;
   bool TStrakePluginCallbacks::*flag;
+};
+
+// All flags as a part of a log line.
+struct TStrakePluginCallbacks::FlagsText {
+  const TStrakePluginCallbacks& callbacks;
+
+  void AppendTo(std::string& text) const {
+    for (const Request& request : Requests()) {
+      AppendPart(text, request.flagText);
+      AppendPart(text, callbacks.*request.flag);
+    }
+  }
+
+  friend void AppendPart(std::string& text, const FlagsText& flags) { flags.AppendTo(text); }
 };
 
 struct TStrakePluginCallbacks::Run {
@@ -108,16 +122,7 @@ void TStrakePluginCallbacks::NoteRequestedClasses(
       }
     }
   }
-  const auto flags = [this] {
-    std::string text;
-    for (const Request& request : Requests()) {
-      text += MakeText(request.flagText, this->*request.flag);
-    }
-    return text;
-  };
-  if (fProvider != nullptr) {
-    LogLevel3(flags());
-  }
+  LogLevel3(FlagsText{*this});
 }
 
 bool TStrakePluginCallbacks::CollectOrlo(const Run& run) {
@@ -166,7 +171,7 @@ void TStrakePluginCallbacks::CollectFromOrlo(const Run& run, unsigned char sp) {
   }
 }
 
-void TStrakePluginCallbacks::ReadOrloSensors(const Run& run, unsigned char sp) {
+void TStrakePluginCallbacks::ReadOrloSensors(const Run& run, unsigned char sp) const {
   run.environ.SetNode(sp);
   LogLevel3("Begin collecting Orlo Environmental data.");
   if (run.environ.GetOrloVoltage().Code() != 0) {
@@ -180,27 +185,20 @@ void TStrakePluginCallbacks::ReadOrloSensors(const Run& run, unsigned char sp) {
   }
 }
 
-bool TStrakePluginCallbacks::CollectTavit(const Run& run) {
+bool TStrakePluginCallbacks::CollectTavit(const Run& run) const {
   LogLevel3("Tavit is present on board.");
   if (IsHeldByManagementServer(run)) {
     return true;
   }
   LogLevel3("Collecting Tavit data. (No Dornlibrary on board).");
-  const std::string machineType = run.MTM.substr(0, 4);
-  std::size_t index = 0;
-  for (; index < Max_Num_Machines; ++index) {
-    LogLevel3("CurrentMachineTypeArray = ", MachineTypeArray[index]);
-    if (machineType == MachineTypeArray[index]) {
-      break;
-    }
-  }
-  if (index == Max_Num_Machines) {
+  const std::optional<std::size_t> index = MatchTavitMachine(run.MTM);
+  if (!index) {
     LogLevel2("No matching Tavit machine was found.");
     return false;
   }
   LogLevel2("Found matching Tavit machine type");
-  LogLevel4("Tavit machine type index=", index);
-  const unsigned int kestleType = KestleTypeOf(index);
+  LogLevel4("Tavit machine type index=", *index);
+  const unsigned int kestleType = KestleTypeOf(*index);
   if (kestleType == kNoKestleType) {
     LogLevel1("Could not find particular Tavit machine.");
   }
@@ -210,7 +208,19 @@ bool TStrakePluginCallbacks::CollectTavit(const Run& run) {
   return true;
 }
 
-bool TStrakePluginCallbacks::IsHeldByManagementServer(const Run& run) {
+// The place of the MTM's machine type among the Tavit machines.
+std::optional<std::size_t> TStrakePluginCallbacks::MatchTavitMachine(const std::string& MTM) const {
+  const std::string machineType = MTM.substr(0, 4);
+  std::size_t index = 0;
+  for (const char* const candidate : MachineTypeArray) {
+    LogLevel3("CurrentMachineTypeArray = ", candidate);
+    if (machineType == candidate) return index;
+    ++index;
+  }
+  return std::nullopt;
+}
+
+bool TStrakePluginCallbacks::IsHeldByManagementServer(const Run& run) const {
   if (run.spLib->isQmvStop() || !run.spLib->isDornlibrary()) {
     return false;
   }
@@ -225,7 +235,7 @@ bool TStrakePluginCallbacks::IsHeldByManagementServer(const Run& run) {
   return true;
 }
 
-void TStrakePluginCallbacks::ReadTavitSensors(const Run& run, unsigned int kestleType) {
+void TStrakePluginCallbacks::ReadTavitSensors(const Run& run, unsigned int kestleType) const {
   if (run.environ.GetKestleVoltage(kestleType).Code() != 0) {
     LogLevel3("Did not obtain all Kestle Voltage data");
   }

@@ -11,6 +11,8 @@
 #include "plugin/spaccess/SPLibrary.h"
 
 #include <boost/shared_ptr.hpp>
+#include <cstddef>
+#include <optional>
 #include <span>
 #include <string>
 #include <vector>
@@ -81,7 +83,7 @@ class TStrakePluginCallbacks : public NVELKZEV20::IPluginCallbacks,
   // The builders of one SP's instances. The status is 0 on every path.
   NVELKZEV20::TZEVStatusCode CreateVELKSGComputerSystem(
       boost::shared_ptr<NVELKZEV20::ICIMNamespace> cimNamespace, std::string systemName,
-      NVELKZEV20::SPLibrary* spLib, unsigned char sp);
+      NVELKZEV20::SPLibrary* spLib, unsigned char sp) const;
   NVELKZEV20::TZEVStatusCode tcpipcommands(
       boost::shared_ptr<NVELKZEV20::ICIMNamespace> cimNamespace, NVELKZEV20::SPLibrary* spLib,
       std::string machineType, std::string systemName, unsigned char sp);
@@ -92,7 +94,7 @@ class TStrakePluginCallbacks : public NVELKZEV20::IPluginCallbacks,
   // The instances of the dial classes, by instance number, counted from 1.
   NVELKZEV20::TZEVStatusCode getSerialPortData(const ServiceProcessor& sp, unsigned char instance);
   NVELKZEV20::TZEVStatusCode getDialoutSettings(const ServiceProcessor& sp, unsigned char instance);
-  NVELKZEV20::TZEVStatusCode getDialinSettings(const ServiceProcessor& sp, unsigned char instance);
+  NVELKZEV20::TZEVStatusCode getDialinSettings(const ServiceProcessor& sp, unsigned char number);
   NVELKZEV20::TZEVStatusCode getDialOutAlerts(const ServiceProcessor& sp, unsigned char instance);
 
   // Fill the instance of network interface `number` (1 or 2).
@@ -102,19 +104,21 @@ class TStrakePluginCallbacks : public NVELKZEV20::IPluginCallbacks,
                             unsigned char number);
 
  private:
+  struct FlagsText;
   struct Request;  // a class and the flag that stands for it
   struct Run;      // what one query works with
 
   static std::span<const Request> Requests();
   void NoteRequestedClasses(const std::vector<boost::shared_ptr<NVELKZEV20::ICIMClass>>& classes);
-  std::string ReadMachineType() const;
+  [[nodiscard]] std::string ReadMachineType() const;
   // False: the run ends at once, without its closing line.
   bool CollectOrlo(const Run& run);
   void CollectFromOrlo(const Run& run, unsigned char sp);
-  void ReadOrloSensors(const Run& run, unsigned char sp);
-  bool CollectTavit(const Run& run);
-  bool IsHeldByManagementServer(const Run& run);
-  void ReadTavitSensors(const Run& run, unsigned int kestleType);
+  void ReadOrloSensors(const Run& run, unsigned char sp) const;
+  [[nodiscard]] bool CollectTavit(const Run& run) const;
+  [[nodiscard]] bool IsHeldByManagementServer(const Run& run) const;
+  [[nodiscard]] std::optional<std::size_t> MatchTavitMachine(const std::string& MTM) const;
+  void ReadTavitSensors(const Run& run, unsigned int kestleType) const;
 
   void PublishNetworkInterfaces(const ServiceProcessor& sp);
 

@@ -24,6 +24,7 @@ T& Deref(const boost::shared_ptr<T>& handle) {
   if (px == nullptr) {
     boost::assertion_failed("px != 0", BOOST_CURRENT_FUNCTION, __FILE__, kEmptyHandleLine);
   }
+  // NOLINTNEXTLINE(clang-analyzer-core.NonNullParamChecker): see above.
   return *px;
 }
 

@@ -3,6 +3,8 @@
 
 #include "plugin/spaccess/SPLibrary.h"
 
+#include <string_view>
+
 namespace strake {
 
 // What a send is made of; the buffers belong to the caller.
@@ -21,9 +23,9 @@ struct DotCommandCall {
 
 // How an owner words its trail.
 struct SenderWording {
-  const char* entered;
-  const char* sent;
-  const char* completed;
+  std::string_view entered;
+  std::string_view sent;
+  std::string_view completed;
   bool namesInstance;  // the sent line tells the SP instance
 };
 

@@ -14,11 +14,6 @@ struct DotCommandText {
   std::span<const unsigned char> identifier;
 };
 
-inline void AppendPart(std::string& text, const DotCommandText& dotCommand) {
-  for (const unsigned char byte : dotCommand.identifier) {
-    AppendPart(text, byte);
-    text.push_back('.');
-  }
-}
+void AppendPart(std::string& text, const DotCommandText& dotCommand);
 
 }  // namespace strake

@@ -109,6 +109,7 @@ void Command::Become(int out, int err) const {
   std::vector<std::string> words = fWords;
   words.insert(words.begin(), STRAKE_BINARY_DIR "/bin/strake");
   std::vector<char*> arguments;
+  arguments.reserve(words.size() + 1);
   for (std::string& word : words) {
     arguments.push_back(word.data());
   }
@@ -118,6 +119,7 @@ void Command::Become(int out, int err) const {
       "LSAN_OPTIONS=print_suppressions=0:suppressions=" STRAKE_SOURCE_DIR "/tests/lsan.supp"};
   variables.insert(variables.end(), fEnvironment.begin(), fEnvironment.end());
   std::vector<char*> environment;
+  environment.reserve(variables.size() + 1);
   for (std::string& variable : variables) {
     environment.push_back(variable.data());
   }

@@ -1,8 +1,10 @@
 // Runs the built command as a process.
 #pragma once
 
+#include <iosfwd>
 #include <string>
 #include <sys/types.h>
+#include <utility>
 #include <vector>
 
 namespace strake::tests {

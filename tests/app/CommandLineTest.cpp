@@ -6,6 +6,7 @@
 #include "tests/app/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
+#include <variant>
 
 namespace strake::tests {
 namespace {

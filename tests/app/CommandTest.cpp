@@ -3,6 +3,7 @@
 #include "tests/app/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
+#include <sstream>
 
 namespace strake::tests {
 namespace {

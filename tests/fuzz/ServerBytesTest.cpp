@@ -80,8 +80,8 @@ TEST(ServerBytes, EverySettingComesBackAsItWas) {
       {std::string(8191, '\0'), INT32_MAX, true},
       {"\xFE\xFF" + std::string({0, 1, 2}), 5, false},
       {"abc", INT32_MIN, true},
-      {"aaab", 4, true},
-      {"xyz", 3, false},
+      {"aaaaaab", 7, true},
+      {"abcabcabcab", 11, false},
   };
   ServerCase original{{}, {{}, {"VELKSG_SP_NumericSensor", "", "Other"}}, {}};
   original.trouble = {platform::Fault::SendIsEmpty, 65535};

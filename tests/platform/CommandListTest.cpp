@@ -44,11 +44,11 @@ class CommandListTest : public PlatformTest {
                                          {Id("0.0.0.0.0"), 3},
                                          {Id("255.255.255.0.255"), 4}}});
   }
-  List list{0xEE};
+  List fList{0xEE};
 };
 
 TEST_F(CommandListTest, CountsComponentsWhateverTheirFourthByte) {
-  ASSERT_TRUE(list.Build());
+  ASSERT_TRUE(fList.Build());
   const struct {
     const char* asked;
     int count;
@@ -57,25 +57,25 @@ TEST_F(CommandListTest, CountsComponentsWhateverTheirFourthByte) {
                {"4.1.5.1.255", -1},  {"4.1.3.1.254", -1}, {"4.1.3.1", -1},
                {"4.1.3.1.255.0", -1}};
   for (const auto& one : cases) {
-    EXPECT_EQ(list.Count(one.asked), one.count) << one.asked;
+    EXPECT_EQ(fList.Count(one.asked), one.count) << one.asked;
   }
 }
 
 TEST_F(CommandListTest, KnowsNothingButTheBuffers) {
-  ASSERT_TRUE(list.Build());
+  ASSERT_TRUE(fList.Build());
   SetServiceProcessors({});
-  EXPECT_EQ(list.Count("4.9.1.1.255"), 2);
-  ASSERT_TRUE(list.Build());
-  EXPECT_EQ(list.Count("4.9.1.1.255"), -1);
+  EXPECT_EQ(fList.Count("4.9.1.1.255"), 2);
+  ASSERT_TRUE(fList.Build());
+  EXPECT_EQ(fList.Count("4.9.1.1.255"), -1);
 }
 
 TEST_F(CommandListTest, LeavesTheBuffersAloneWhenItCannotBeBuilt) {
   SetServiceProcessors({.commandList = false, .components = {{Id("4.1.3.0.255"), 1}}});
-  EXPECT_FALSE(list.Build());
+  EXPECT_FALSE(fList.Build());
   for (std::size_t buffer = 0; buffer < 3; ++buffer) {
-    EXPECT_EQ(std::count(list.At(buffer), list.At(buffer) + 4096, 0xEE), 4096);
+    EXPECT_EQ(std::count(fList.At(buffer), fList.At(buffer) + 4096, 0xEE), 4096);
   }
-  EXPECT_EQ(list.Count("4.1.3.1.255"), -1);
+  EXPECT_EQ(fList.Count("4.1.3.1.255"), -1);
 }
 
 TEST_F(CommandListTest, CountsNothingInBuffersThatWereNeverFilled) {
@@ -86,24 +86,24 @@ TEST_F(CommandListTest, CountsNothingInBuffersThatWereNeverFilled) {
 }
 
 TEST_F(CommandListTest, CountsNothingInBuffersInAnotherOrder) {
-  ASSERT_TRUE(list.Build());
+  ASSERT_TRUE(fList.Build());
   std::string asked = Id("4.9.1.1.255");
   auto* const bytes = reinterpret_cast<unsigned char*>(asked.data());
-  EXPECT_EQ(Library().getComponentdotCmdList(bytes, 5, list.At(1), list.At(0), list.At(2)), -1);
-  EXPECT_EQ(Library().getComponentdotCmdList(bytes, 5, list.At(0), list.At(2), list.At(1)), -1);
-  EXPECT_EQ(Library().getComponentdotCmdList(bytes, 5, list.At(0), list.At(0), list.At(0)), -1);
+  EXPECT_EQ(Library().getComponentdotCmdList(bytes, 5, fList.At(1), fList.At(0), fList.At(2)), -1);
+  EXPECT_EQ(Library().getComponentdotCmdList(bytes, 5, fList.At(0), fList.At(2), fList.At(1)), -1);
+  EXPECT_EQ(Library().getComponentdotCmdList(bytes, 5, fList.At(0), fList.At(0), fList.At(0)), -1);
 }
 
 TEST_F(CommandListTest, BearsNullPointersAndOddLengths) {
-  ASSERT_TRUE(list.Build());
-  EXPECT_FALSE(Library().buildDotCommandList(nullptr, list.At(1), list.At(2)));
-  EXPECT_FALSE(Library().buildDotCommandList(list.At(0), nullptr, list.At(2)));
-  EXPECT_FALSE(Library().buildDotCommandList(list.At(0), list.At(1), nullptr));
+  ASSERT_TRUE(fList.Build());
+  EXPECT_FALSE(Library().buildDotCommandList(nullptr, fList.At(1), fList.At(2)));
+  EXPECT_FALSE(Library().buildDotCommandList(fList.At(0), nullptr, fList.At(2)));
+  EXPECT_FALSE(Library().buildDotCommandList(fList.At(0), fList.At(1), nullptr));
   unsigned char asked[5] = {4, 9, 1, 1, 255};
   const auto count = [&](unsigned char* identifier, int length, int missing) {
-    return Library().getComponentdotCmdList(identifier, length, missing == 1 ? nullptr : list.At(0),
-                                            missing == 2 ? nullptr : list.At(1),
-                                            missing == 3 ? nullptr : list.At(2));
+    return Library().getComponentdotCmdList(
+        identifier, length, missing == 1 ? nullptr : fList.At(0),
+        missing == 2 ? nullptr : fList.At(1), missing == 3 ? nullptr : fList.At(2));
   };
   EXPECT_EQ(count(asked, 5, 0), 2);
   EXPECT_EQ(count(nullptr, 5, 0), -1);
@@ -121,15 +121,15 @@ TEST_F(CommandListTest, HoldsAsManyComponentsAsADescriptionMayHave) {
     description.components[identifier] = static_cast<int>(i % 255);
   }
   SetServiceProcessors(description);
-  ASSERT_TRUE(list.Build());
+  ASSERT_TRUE(fList.Build());
   for (std::size_t i = 0; i < kMostComponents; ++i) {
     const std::string asked = std::to_string(i / 256) + '.' + std::to_string(i % 256) + ".1.77.9";
-    ASSERT_EQ(list.Count(asked), static_cast<int>(i % 255)) << asked;
+    ASSERT_EQ(fList.Count(asked), static_cast<int>(i % 255)) << asked;
   }
 }
 
 TEST_F(CommandListTest, NeverReadsOutsideBuffersThatWereTamperedWith) {
-  ASSERT_TRUE(list.Build());
+  ASSERT_TRUE(fList.Build());
   std::mt19937 random(20240601);
   std::uniform_int_distribution<unsigned> anyPlace(0, 3 * 4096 - 1);
   std::uniform_int_distribution<unsigned> headerPlace(0, 5);
@@ -138,10 +138,10 @@ TEST_F(CommandListTest, NeverReadsOutsideBuffersThatWereTamperedWith) {
     // Every other change hits a header, the last two bytes of which are a count.
     const unsigned place =
         round % 2 == 0 ? anyPlace(random) : headerPlace(random) + 4096 * (anyByte(random) % 3);
-    unsigned char& byte = list.At(place / 4096)[place % 4096];
+    unsigned char& byte = fList.At(place / 4096)[place % 4096];
     const unsigned char before = byte;
     byte = static_cast<unsigned char>(anyByte(random));
-    const int count = list.Count("9.9.9.9.9");
+    const int count = fList.Count("9.9.9.9.9");
     ASSERT_GE(count, -1);
     ASSERT_LE(count, 254);
     if (round % 2 != 0) {
@@ -150,24 +150,24 @@ TEST_F(CommandListTest, NeverReadsOutsideBuffersThatWereTamperedWith) {
   }
   for (const unsigned rows : {2043U, 2044U, 65535U}) {
     for (std::size_t buffer = 0; buffer < 3; ++buffer) {
-      list.At(buffer)[0] = 'D';
-      list.At(buffer)[1] = 'C';
-      list.At(buffer)[2] = 'L';
-      list.At(buffer)[3] = static_cast<unsigned char>('1' + buffer);
-      list.At(buffer)[4] = static_cast<unsigned char>(rows % 256);
-      list.At(buffer)[5] = static_cast<unsigned char>(rows / 256);
+      fList.At(buffer)[0] = 'D';
+      fList.At(buffer)[1] = 'C';
+      fList.At(buffer)[2] = 'L';
+      fList.At(buffer)[3] = static_cast<unsigned char>('1' + buffer);
+      fList.At(buffer)[4] = static_cast<unsigned char>(rows % 256);
+      fList.At(buffer)[5] = static_cast<unsigned char>(rows / 256);
     }
-    EXPECT_EQ(list.Count("9.8.7.6.5"), -1) << rows;
+    EXPECT_EQ(fList.Count("9.8.7.6.5"), -1) << rows;
   }
 }
 
 TEST_F(CommandListTest, TakesACountThatNoComponentHasForAFailure) {
   SetServiceProcessors({.components = {{Id("1.1.1.0.1"), 254}}});
-  ASSERT_TRUE(list.Build());
-  EXPECT_EQ(list.Count("1.1.1.1.1"), 254);
-  ASSERT_EQ(list.At(0)[11], 254);
-  list.At(0)[11] = 255;
-  EXPECT_EQ(list.Count("1.1.1.1.1"), -1);
+  ASSERT_TRUE(fList.Build());
+  EXPECT_EQ(fList.Count("1.1.1.1.1"), 254);
+  ASSERT_EQ(fList.At(0)[11], 254);
+  fList.At(0)[11] = 255;
+  EXPECT_EQ(fList.Count("1.1.1.1.1"), -1);
 }
 
 }  // namespace

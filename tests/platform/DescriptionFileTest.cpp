@@ -12,18 +12,19 @@ namespace {
 class DescriptionFileTest : public testing::Test {
  protected:
   DescriptionFileTest()
-      : folder(std::filesystem::path(testing::TempDir()) /
-               ("description-files-" + std::to_string(getpid()))) {
-    std::filesystem::create_directories(folder);
+      : fFolder(std::filesystem::path(testing::TempDir()) /
+                ("description-files-" + std::to_string(getpid()))) {
+    std::filesystem::create_directories(fFolder);
   }
-  ~DescriptionFileTest() override { std::filesystem::remove_all(folder); }
+  ~DescriptionFileTest() override { std::filesystem::remove_all(fFolder); }
 
-  std::filesystem::path Write(const std::string& name, const std::string& text) const {
-    std::ofstream(folder / name, std::ios::binary) << text;
-    return folder / name;
+  [[nodiscard]] std::filesystem::path Write(const std::string& name,
+                                            const std::string& text) const {
+    std::ofstream(fFolder / name, std::ios::binary) << text;
+    return fFolder / name;
   }
 
-  std::filesystem::path folder;
+  std::filesystem::path fFolder;
 };
 
 std::string RefusalOf(const std::filesystem::path& file) {
@@ -43,12 +44,12 @@ TEST_F(DescriptionFileTest, IsReadWhole) {
 }
 
 TEST_F(DescriptionFileTest, IsNamedWhenItIsMissing) {
-  const auto file = folder / "missing.json";
+  const auto file = fFolder / "missing.json";
   EXPECT_EQ(RefusalOf(file), file.string() + ": cannot be read: No such file or directory");
 }
 
 TEST_F(DescriptionFileTest, IsNamedWhenItIsADirectory) {
-  EXPECT_EQ(RefusalOf(folder), folder.string() + ": cannot be read: Is a directory");
+  EXPECT_EQ(RefusalOf(fFolder), fFolder.string() + ": cannot be read: Is a directory");
 }
 
 // Root may read everything, so it steps down for a while.

@@ -23,7 +23,7 @@ using NVELKZEV20::TRootObject;
 
 class HostCallsTest : public PlatformTest {
  protected:
-  FaultyTrace trace;
+  FaultyTrace fTrace;
 };
 
 using Lines = std::vector<std::string>;
@@ -37,13 +37,13 @@ TEST_F(HostCallsTest, GiveTheirDefaults) {
 }
 
 TEST_F(HostCallsTest, TellOfTheirResults) {
-  SetHostObserver(&trace);
+  SetHostObserver(&fTrace);
   TOSSpecific::GetMachineTypeFromID();
   TCIMSchemaHelper::GetSystemName({});
   TCIMSchemaHelper::GetSystemCreationClassName({});
   TOSSpecific::GetLocalTime();
   EXPECT_EQ(
-      trace.TakeLines(),
+      fTrace.TakeLines(),
       (Lines{
           R"({"event":"host","call":"GetMachineTypeFromID","result":"9999-AC1"})",
           R"({"event":"host","call":"GetSystemName","result":"SRV1"})",
@@ -53,28 +53,28 @@ TEST_F(HostCallsTest, TellOfTheirResults) {
 
 TEST_F(HostCallsTest, ThrowWhereTheServerSaysSo) {
   SetHost({.machineTypeModel = {"no bios", true}, .systemName = {"no name", true}});
-  SetHostObserver(&trace);
+  SetHostObserver(&fTrace);
   EXPECT_EQ(TextThrownBy([] { TOSSpecific::GetMachineTypeFromID(); }), "no bios");
   EXPECT_EQ(TextThrownBy([] { TCIMSchemaHelper::GetSystemName({}); }), "no name");
-  EXPECT_EQ(trace.TakeLines(),
+  EXPECT_EQ(fTrace.TakeLines(),
             (Lines{R"({"event":"host","call":"GetMachineTypeFromID","throws":"no bios"})",
                    R"({"event":"host","call":"GetSystemName","throws":"no name"})"}));
 }
 
 TEST_F(HostCallsTest, TellOfInjectedExceptions) {
-  SetHostObserver(&trace);
-  trace.Inject(BoundaryCall::GetSystemName, Fault::StandardException);
+  SetHostObserver(&fTrace);
+  fTrace.Inject(BoundaryCall::GetSystemName, Fault::StandardException);
   EXPECT_EQ(TextThrownBy([] { TCIMSchemaHelper::GetSystemName({}); }), "injected fault");
-  trace.Inject(BoundaryCall::GetSystemName, Fault::OtherException);
+  fTrace.Inject(BoundaryCall::GetSystemName, Fault::OtherException);
   EXPECT_THROW(TCIMSchemaHelper::GetSystemName({}), int);
-  EXPECT_EQ(trace.TakeLines(),
+  EXPECT_EQ(fTrace.TakeLines(),
             (Lines{R"({"event":"host","call":"GetSystemName","throws":"injected fault"})",
                    R"({"event":"host","call":"GetSystemName","throws":"unknown exception"})"}));
-  trace.Inject(BoundaryCall::GetSystemCreationClassName, Fault::StandardException);
+  fTrace.Inject(BoundaryCall::GetSystemCreationClassName, Fault::StandardException);
   EXPECT_ANY_THROW(TCIMSchemaHelper::GetSystemCreationClassName({}));
-  trace.Inject(BoundaryCall::GetLocalTime, Fault::StandardException);
+  fTrace.Inject(BoundaryCall::GetLocalTime, Fault::StandardException);
   EXPECT_ANY_THROW(TOSSpecific::GetLocalTime());
-  EXPECT_TRUE(trace.TakeLines().empty());
+  EXPECT_TRUE(fTrace.TakeLines().empty());
 }
 
 TEST_F(HostCallsTest, GiveTheTimeThatTheServerSays) {
@@ -98,15 +98,15 @@ TEST_F(HostCallsTest, GiveTheRealLocalTimeOtherwise) {
 
 TEST_F(HostCallsTest, CarryLogLinesToTheObserverAndThenToTheSink) {
   std::vector<std::string> kept;
-  SetHostObserver(&trace);
+  SetHostObserver(&fTrace);
   SetLogSink([&](int level, const std::string& message) {
     kept.push_back(std::to_string(level) + ' ' + message);
   });
   TRootObject::GetCoreLogger()->Log(3, "a line");
-  trace.Inject(BoundaryCall::Log, Fault::StandardException);
+  fTrace.Inject(BoundaryCall::Log, Fault::StandardException);
   EXPECT_ANY_THROW(TRootObject::GetCoreLogger()->Log(2, "lost"));
   EXPECT_EQ(kept, Lines{"3 a line"});
-  EXPECT_EQ(trace.TakeLines(), Lines{R"({"event":"log","level":3,"message":"a line"})"});
+  EXPECT_EQ(fTrace.TakeLines(), Lines{R"({"event":"log","level":3,"message":"a line"})"});
   SetLogSink({});
   SetHostObserver(nullptr);
   TRootObject::GetCoreLogger()->Log(3, "nobody listens");
@@ -144,25 +144,26 @@ TEST(HostAssertions, NameExpressionFunctionAndLine) {
 }
 
 class OpenNamespace : public ICIMNamespace {
-  void GetClass(boost::shared_ptr<ICIMClass>&, const std::string&,
-                NVELKZEV20::ContextMap) override {}
+  void GetClass(boost::shared_ptr<ICIMClass>& /*cimClass*/, const std::string& /*name*/,
+                NVELKZEV20::ContextMap /*context*/) override {}
 };
 class OpenClass : public ICIMClass {
   [[nodiscard]] std::string GetName() const override { return {}; }
-  void CreateInstance(boost::shared_ptr<ICIMInstance>&,
-                      const NVELKZEV20::TNameToValueMap&) override {}
+  void CreateInstance(boost::shared_ptr<ICIMInstance>& /*instance*/,
+                      const NVELKZEV20::TNameToValueMap& /*options*/) override {}
 };
 class OpenInstance : public ICIMInstance {
-  void Commit(NVELKZEV20::TNameToValueMap) override {}
-  void SetProperty(const std::string&, const TCIMValue&, NVELKZEV20::TNameToValueMap) override {}
+  void Commit(NVELKZEV20::TNameToValueMap /*options*/) override {}
+  void SetProperty(const std::string& /*name*/, const TCIMValue& /*value*/,
+                   NVELKZEV20::TNameToValueMap /*qualifiers*/) override {}
 };
 
 template <typename Interface>
 void ExpectReserved(Interface& object, const char* name,
                     const std::vector<std::pair<int, void (Interface::*)()>>& slots) {
-  for (const auto& [slot, operation] : slots) {
-    EXPECT_EQ(TextThrownBy<std::logic_error>([&] { (object.*operation)(); }),
-              std::string(name) + " slot " + std::to_string(slot) + " is reserved");
+  for (const auto& slot : slots) {
+    EXPECT_EQ(TextThrownBy<std::logic_error>([&] { (object.*slot.second)(); }),
+              std::string(name) + " slot " + std::to_string(slot.first) + " is reserved");
   }
 }
 

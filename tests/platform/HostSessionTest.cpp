@@ -74,13 +74,13 @@ int Enter(unsigned int reason) {
 class HostSessionTest : public PlatformTest {
  protected:
   HostSessionTest() { Script() = {}; }
-  FaultyTrace trace;
-  ServerDescription server;
+  FaultyTrace fTrace;
+  ServerDescription fServer;
 };
 
 TEST_F(HostSessionTest, LeadsAPluginFromAttachToDetach) {
   {
-    HostSession session(server);
+    HostSession session(fServer);
     session.Attach(Enter<TestPlugin>);
     session.Initialize();
     session.Query({});
@@ -97,14 +97,14 @@ TEST_F(HostSessionTest, LeadsAPluginFromAttachToDetach) {
 
 TEST_F(HostSessionTest, DetachesWhenItEnds) {
   {
-    HostSession session(server);
+    HostSession session(fServer);
     session.Attach(Enter<TestPlugin>);
   }
   EXPECT_EQ(Script().told, (Lines{"entry 1", "ended", "entry 0"}));
 }
 
 TEST_F(HostSessionTest, MayAttachAgainAfterADetach) {
-  HostSession session(server);
+  HostSession session(fServer);
   session.Attach(Enter<TestPlugin>);
   EXPECT_EQ(TextThrownBy<SessionError>([&] { session.Attach(Enter<TestPlugin>); }),
             "a module is attached already");
@@ -114,7 +114,7 @@ TEST_F(HostSessionTest, MayAttachAgainAfterADetach) {
 }
 
 TEST_F(HostSessionTest, RefusesAModuleThatDoesNotAttachOrRegister) {
-  HostSession session(server);
+  HostSession session(fServer);
   Script().registers = false;
   EXPECT_EQ(TextThrownBy<SessionError>([&] { session.Attach(Enter<TestPlugin>); }),
             "the module registered no plug-in");
@@ -128,23 +128,23 @@ TEST_F(HostSessionTest, RefusesAModuleThatDoesNotAttachOrRegister) {
 
 TEST_F(HostSessionTest, DoesNotTakeAnEarlierPluginForTheNewModules) {
   {
-    HostSession session(server);
+    HostSession session(fServer);
     session.Attach(Enter<TestPlugin>);
     Script().registers = false;
   }
-  HostSession session(server);
+  HostSession session(fServer);
   EXPECT_THROW(session.Attach(Enter<TestPlugin>), SessionError);
 }
 
 TEST_F(HostSessionTest, RefusesToQueryAPluginWithoutAQueryFace) {
-  HostSession session(server, &trace);
+  HostSession session(fServer, &fTrace);
   session.Attach(Enter<CallbacksOnly>);
   EXPECT_EQ(TextThrownBy<SessionError>([&] { session.Query({}); }), "the plug-in takes no queries");
-  EXPECT_TRUE(trace.TakeLines().empty());
+  EXPECT_TRUE(fTrace.TakeLines().empty());
 }
 
 TEST_F(HostSessionTest, HandsTheRequestedClassesAndTheNamespaceToTheQuery) {
-  HostSession session(server, &trace);
+  HostSession session(fServer, &fTrace);
   session.Attach(Enter<TestPlugin>);
   Script().query = [](const boost::shared_ptr<ICIMNamespace>& cimNamespace,
                       const Classes& classes) {
@@ -159,7 +159,7 @@ TEST_F(HostSessionTest, HandsTheRequestedClassesAndTheNamespaceToTheQuery) {
   };
   session.Query({"VELKSG_SP_ComputerSystem", "Unknown"});
   EXPECT_EQ(
-      trace.TakeLines(),
+      fTrace.TakeLines(),
       (Lines{
           R"({"event":"query","classes":["VELKSG_SP_ComputerSystem","Unknown"]})",
           R"({"event":"host","call":"GetName","result":"Unknown"})",
@@ -178,13 +178,13 @@ TEST_F(HostSessionTest, HandsTheRequestedClassesAndTheNamespaceToTheQuery) {
 }
 
 TEST_F(HostSessionTest, PassesOnWhatAQueryThrows) {
-  HostSession session(server, &trace);
+  HostSession session(fServer, &fTrace);
   session.Attach(Enter<TestPlugin>);
   Script().query = [](const auto&, const auto&) { throw std::runtime_error("lost"); };
   EXPECT_EQ(TextThrownBy<std::runtime_error>([&] { session.Query({}); }), "lost");
   Script().query = [](const auto&, const auto&) { throw 5; };
   EXPECT_THROW(session.Query({}), int);
-  EXPECT_EQ(trace.TakeLines(),
+  EXPECT_EQ(fTrace.TakeLines(),
             (Lines{R"({"event":"query","classes":[]})", R"({"event":"query_end","throws":"lost"})",
                    R"({"event":"query","classes":[]})",
                    R"({"event":"query_end","throws":"unknown exception"})"}));
@@ -193,33 +193,33 @@ TEST_F(HostSessionTest, PassesOnWhatAQueryThrows) {
 }
 
 TEST_F(HostSessionTest, SetsThePlatformUpAndLetsItGo) {
-  server.host.machineTypeModel = {"5127-ABC", false};
-  server.sp.kind = SpKind::Tavit;
+  fServer.host.machineTypeModel = {"5127-ABC", false};
+  fServer.sp.kind = SpKind::Tavit;
   Lines sunk;
   {
-    HostSession session(server, &trace,
+    HostSession session(fServer, &fTrace,
                         [&](int, const std::string& message) { sunk.push_back(message); });
     EXPECT_EQ(NVELKZEV20::TOSSpecific::GetMachineTypeFromID(), "5127-ABC");
     EXPECT_TRUE(NVELKZEV20::SPLibrary::GetSplibraryInstance(0)->isKestle());
     TRootObject::GetCoreLogger()->Log(1, "heard");
-    EXPECT_EQ(trace.TakeLines().size(), 3U);
+    EXPECT_EQ(fTrace.TakeLines().size(), 3U);
   }
   TRootObject::GetCoreLogger()->Log(1, "unheard");
   NVELKZEV20::SPLibrary::GetSplibraryInstance(0)->isKestle();
-  EXPECT_TRUE(trace.TakeLines().empty());
+  EXPECT_TRUE(fTrace.TakeLines().empty());
   EXPECT_EQ(sunk, Lines{"heard"});
 }
 
 TEST_F(HostSessionTest, SurvivesAPluginThatFailsToEnd) {
   {
-    HostSession session(server);
+    HostSession session(fServer);
     session.Attach(Enter<TestPlugin>);
     Script().destroyThrows = true;
     EXPECT_EQ(TextThrownBy([&] { session.Detach(); }), "cannot end");
     session.Detach();
   }
   EXPECT_EQ(Script().told, (Lines{"entry 1", "ended"}));
-  HostSession session(server);
+  HostSession session(fServer);
   session.Attach(Enter<TestPlugin>);  // ended by the session's own end
 }
 

@@ -12,13 +12,13 @@ namespace {
 class PluginModuleTest : public testing::Test {
  protected:
   PluginModuleTest()
-      : folder(std::filesystem::path(testing::TempDir()) /
-               ("plugin-modules-" + std::to_string(getpid()))) {
-    std::filesystem::create_directories(folder);
+      : fFolder(std::filesystem::path(testing::TempDir()) /
+                ("plugin-modules-" + std::to_string(getpid()))) {
+    std::filesystem::create_directories(fFolder);
   }
-  ~PluginModuleTest() override { std::filesystem::remove_all(folder); }
+  ~PluginModuleTest() override { std::filesystem::remove_all(fFolder); }
 
-  std::filesystem::path folder;
+  std::filesystem::path fFolder;
 };
 
 std::string RefusalOf(const std::filesystem::path& file) {
@@ -31,18 +31,18 @@ std::string RefusalOf(const std::filesystem::path& file) {
 }
 
 TEST_F(PluginModuleTest, SaysThatTheFileIsMissing) {
-  const auto file = folder / "missing.so";
+  const auto file = fFolder / "missing.so";
   EXPECT_EQ(RefusalOf(file), file.string() + ": there is no such module file");
 }
 
 TEST_F(PluginModuleTest, SaysThatAFileIsNoModule) {
-  const auto file = folder / "text.so";
+  const auto file = fFolder / "text.so";
   std::ofstream(file) << "This is a text, not a module, and long enough to hold a header.\n";
   EXPECT_EQ(RefusalOf(file), file.string() + ": is not a loadable module: invalid ELF header");
-  std::ofstream(folder / "empty.so") << "";
-  EXPECT_EQ(RefusalOf(folder / "empty.so"),
-            (folder / "empty.so").string() + ": is not a loadable module: file too short");
-  EXPECT_TRUE(RefusalOf(folder).starts_with(folder.string() + ": is not a loadable module: "));
+  std::ofstream(fFolder / "empty.so") << "";
+  EXPECT_EQ(RefusalOf(fFolder / "empty.so"),
+            (fFolder / "empty.so").string() + ": is not a loadable module: file too short");
+  EXPECT_TRUE(RefusalOf(fFolder).starts_with(fFolder.string() + ": is not a loadable module: "));
 }
 
 TEST_F(PluginModuleTest, SaysThatALibraryLacksTheEntry) {

@@ -22,7 +22,7 @@ class RepositoryTest : public PlatformTest {
  protected:
   ClassHandle Class(const std::string& name) {
     ClassHandle handle;
-    repository.GetClass(handle, name, {});
+    fRepository.GetClass(handle, name, {});
     return handle;
   }
   InstanceHandle Instance(const std::string& className) {
@@ -37,7 +37,7 @@ class RepositoryTest : public PlatformTest {
     instance->Commit({});
   }
 
-  Repository repository;
+  Repository fRepository;
 };
 
 TEST_F(RepositoryTest, FindsAClassOfTheSchemaByItsName) {
@@ -48,30 +48,31 @@ TEST_F(RepositoryTest, FindsAClassOfTheSchemaByItsName) {
 
 TEST_F(RepositoryTest, LeavesTheHandleEmptyForAnUnknownClass) {
   ClassHandle handle = Class(kSystem);
-  repository.GetClass(handle, "VELKSG_Unknown", {});
+  fRepository.GetClass(handle, "VELKSG_Unknown", {});
   EXPECT_FALSE(handle);
 }
 
 TEST_F(RepositoryTest, HandsOutRequestedClassesOfAnyName) {
   for (const char* name : {kSystem, "VELKSG_Unknown", ""}) {
-    EXPECT_EQ(repository.RequestedClass(name)->GetName(), name);
+    EXPECT_EQ(fRepository.RequestedClass(name)->GetName(), name);
   }
   InstanceHandle instance;
-  EXPECT_EQ(TextThrownBy([&] { repository.RequestedClass("Other")->CreateInstance(instance, {}); }),
-            "there is no class Other to make an instance of");
+  EXPECT_EQ(
+      TextThrownBy([&] { fRepository.RequestedClass("Other")->CreateInstance(instance, {}); }),
+      "there is no class Other to make an instance of");
 }
 
 TEST_F(RepositoryTest, KeepsInstancesInCommitOrderWithTheirNumbers) {
   const InstanceHandle first = Instance(kSystem);
   const InstanceHandle second = Instance(kSensor);
-  EXPECT_TRUE(repository.Committed().empty());
+  EXPECT_TRUE(fRepository.Committed().empty());
   second->Commit({});
   first->Commit({});
-  ASSERT_EQ(repository.Committed().size(), 2U);
-  EXPECT_EQ(repository.Committed()[0].className, kSensor);
-  EXPECT_EQ(repository.Committed()[0].number, 2U);
-  EXPECT_EQ(repository.Committed()[1].className, kSystem);
-  EXPECT_EQ(repository.Committed()[1].number, 1U);
+  ASSERT_EQ(fRepository.Committed().size(), 2U);
+  EXPECT_EQ(fRepository.Committed()[0].className, kSensor);
+  EXPECT_EQ(fRepository.Committed()[0].number, 2U);
+  EXPECT_EQ(fRepository.Committed()[1].className, kSystem);
+  EXPECT_EQ(fRepository.Committed()[1].number, 1U);
 }
 
 TEST_F(RepositoryTest, KeepsPropertiesInTheOrderInWhichTheyWereSet) {
@@ -81,7 +82,7 @@ TEST_F(RepositoryTest, KeepsPropertiesInTheOrderInWhichTheyWereSet) {
   instance->SetProperty("DeviceID", "Fan", {});
   instance->SetProperty("UnitModifier", -3, {});
   instance->Commit({});
-  const StoredInstance& stored = repository.Committed().front();
+  const StoredInstance& stored = fRepository.Committed().front();
   ASSERT_EQ(stored.properties.size(), 3U);
   EXPECT_EQ(stored.properties[0].first, "UnitModifier");
   // Set twice: the value is the last one, the place the first one.
@@ -120,7 +121,7 @@ TEST_F(RepositoryTest, RefusesWhatTheSchemaDoesNotHave) {
     EXPECT_EQ(TextThrownBy([&] { instance->SetProperty(one.property, one.value, {}); }),
               one.message);
     instance->Commit({});
-    EXPECT_TRUE(repository.Committed().back().properties.empty());
+    EXPECT_TRUE(fRepository.Committed().back().properties.empty());
   }
 }
 
@@ -143,9 +144,9 @@ TEST_F(RepositoryTest, TakesNothingMoreOnceAnInstanceIsCommitted) {
             "instance 1 of VELKSG_SP_ComputerSystem is committed and cannot be committed again");
   EXPECT_EQ(TextThrownBy<std::logic_error>([&] { instance->SetProperty("Name", "b", {}); }),
             "instance 1 of VELKSG_SP_ComputerSystem is committed and cannot take property Name");
-  ASSERT_EQ(repository.Committed().size(), 1U);
+  ASSERT_EQ(fRepository.Committed().size(), 1U);
   EXPECT_EQ(std::get<std::string>(
-                TCIMValueContent::Of(repository.Committed()[0].properties.at(0).second)),
+                TCIMValueContent::Of(fRepository.Committed()[0].properties.at(0).second)),
             "a");
 }
 
@@ -157,7 +158,7 @@ TEST_F(RepositoryTest, CopiesTheValuesThatItIsGiven) {
   }
   instance->Commit({});
   EXPECT_EQ(std::get<std::string>(
-                TCIMValueContent::Of(repository.Committed()[0].properties.at(0).second)),
+                TCIMValueContent::Of(fRepository.Committed()[0].properties.at(0).second)),
             std::string(100, 'x'));
 }
 
@@ -175,12 +176,12 @@ TEST_F(RepositoryTest, LetsItsClassesAndInstancesOutliveIt) {
 }
 
 TEST_F(RepositoryTest, CountsTheHandlesThatAreHeld) {
-  EXPECT_EQ(repository.HandlesHeld(), 0);
+  EXPECT_EQ(fRepository.HandlesHeld(), 0);
   {
     const InstanceHandle instance = Instance(kSystem);
-    EXPECT_EQ(repository.HandlesHeld(), 1);
+    EXPECT_EQ(fRepository.HandlesHeld(), 1);
   }
-  EXPECT_EQ(repository.HandlesHeld(), 0);
+  EXPECT_EQ(fRepository.HandlesHeld(), 0);
 }
 
 TEST_F(RepositoryTest, KeepsInstancesWithEqualKeysAndReportsThem) {
@@ -191,8 +192,8 @@ TEST_F(RepositoryTest, KeepsInstancesWithEqualKeysAndReportsThem) {
   CommitSystem(1, "B");
   Instance(kSensor)->Commit({});
   Instance(kSensor)->Commit({});
-  EXPECT_EQ(repository.Committed().size(), 7U);
-  const std::vector<EqualKeys> groups = repository.FindEqualKeys();
+  EXPECT_EQ(fRepository.Committed().size(), 7U);
+  const std::vector<EqualKeys> groups = fRepository.FindEqualKeys();
   ASSERT_EQ(groups.size(), 2U);
   EXPECT_EQ(groups[0].className, kSystem);
   EXPECT_EQ(groups[0].keys, "SourceNode=1, Name=B");
@@ -207,7 +208,7 @@ TEST_F(RepositoryTest, DoesNotTakeAMissingKeyForAnEmptyOne) {
   const InstanceHandle instance = Instance(kSystem);
   instance->SetProperty("Name", "", {});
   instance->Commit({});
-  EXPECT_TRUE(repository.FindEqualKeys().empty());
+  EXPECT_TRUE(fRepository.FindEqualKeys().empty());
 }
 
 TEST_F(RepositoryTest, ShowsInjectedFaultsWithoutDoingTheWork) {
@@ -260,8 +261,8 @@ TEST_F(RepositoryTest, ShowsInjectedFaultsWithoutDoingTheWork) {
 
   trace.Inject(BoundaryCall::Commit, Fault::SendFails);  // no fault of a commit
   instance->Commit({});
-  ASSERT_EQ(repository.Committed().size(), 1U);
-  EXPECT_TRUE(repository.Committed()[0].properties.empty());
+  ASSERT_EQ(fRepository.Committed().size(), 1U);
+  EXPECT_TRUE(fRepository.Committed()[0].properties.empty());
 }
 
 }  // namespace

@@ -16,6 +16,12 @@ constexpr unsigned char kUntouched = 0xEE;
 
 SPLibrary& Library() { return *SPLibrary::GetSplibraryInstance(0); }
 
+struct CommandList {
+  Bytes first = Bytes(4096);
+  Bytes second = Bytes(4096);
+  Bytes third = Bytes(4096);
+};
+
 struct Sent {
   bool result = false;
   int length = -77;
@@ -50,7 +56,7 @@ Identifier Id(const std::string& dotNotation) { return ParseDotNotation(dotNotat
 
 class SpDriverTest : public PlatformTest {
  protected:
-  FaultyTrace trace;
+  FaultyTrace fTrace;
 };
 
 TEST_F(SpDriverTest, AnswersTheQuestionsByItsDescription) {
@@ -76,26 +82,29 @@ TEST_F(SpDriverTest, AnswersTheQuestionsByItsDescription) {
     EXPECT_EQ(Library().isQmvStop(), answer);
     EXPECT_EQ(Library().isDornlibrary(), answer);
     EXPECT_EQ(Library().discoverSPs(), answer ? -5 : 300);
-    Bytes list(3 * 4096);
-    EXPECT_EQ(Library().buildDotCommandList(&list[0], &list[4096], &list[8192]), answer);
+    CommandList list;
+    EXPECT_EQ(
+        Library().buildDotCommandList(list.first.data(), list.second.data(), list.third.data()),
+        answer);
   }
 }
 
 TEST_F(SpDriverTest, TellsOfEveryQuestion) {
   SetServiceProcessors({.kind = SpKind::Orlo, .count = 2, .components = {{Id("4.1.3.0.255"), 7}}});
-  SetDriverObserver(&trace);
+  SetDriverObserver(&fTrace);
   Library().isDotcommand();
   Library().isKestle();
   Library().isQmvStop();
   Library().isDornlibrary();
   Library().checkSPComm();
   Library().discoverSPs();
-  Bytes list(3 * 4096);
-  Library().buildDotCommandList(&list[0], &list[4096], &list[8192]);
+  CommandList list;
+  Library().buildDotCommandList(list.first.data(), list.second.data(), list.third.data());
   Bytes asked{4, 1, 3, 9, 255};
-  Library().getComponentdotCmdList(asked.data(), 5, &list[0], &list[4096], &list[8192]);
+  Library().getComponentdotCmdList(asked.data(), 5, list.first.data(), list.second.data(),
+                                   list.third.data());
   EXPECT_EQ(
-      trace.TakeLines(),
+      fTrace.TakeLines(),
       (Lines{R"({"event":"sp","call":"isDotcommand","result":true})",
              R"({"event":"sp","call":"isKestle","result":false})",
              R"({"event":"sp","call":"isQmvStop","result":true})",
@@ -201,13 +210,13 @@ TEST_F(SpDriverTest, GivesRepliesInTurnAndThenTheLastOne) {
 TEST_F(SpDriverTest, TellsOfEverySendWithTheBytesThatItWrote) {
   SetServiceProcessors({.instances = {{{Id("4.9.1.1.255"), Once(std::string("\0\x7F\xFF", 3))}}},
                         .kestleCommands = {{166, Once("AB")}}});
-  SetDriverObserver(&trace);
+  SetDriverObserver(&fTrace);
   SendDot("4.9.1.1.255", 0, 2);
   SendDot("4.9.1.1.254", -3, 350);
   SendKestle(166);
   SendKestle(162);
   EXPECT_EQ(
-      trace.TakeLines(),
+      fTrace.TakeLines(),
       (Lines{
           R"({"event":"sp","call":"sendDotCommand","class":2,"id":"4.9.1.1.255","sp":0,"size":2,"result":true,"length":3,"reply":"007F"})",
           R"({"event":"sp","call":"sendDotCommand","class":2,"id":"4.9.1.1.254","sp":-3,"size":350,"result":false,"length":0,"reply":""})",
@@ -218,7 +227,7 @@ TEST_F(SpDriverTest, TellsOfEverySendWithTheBytesThatItWrote) {
 TEST_F(SpDriverTest, BearsNullPointersAndOddLengths) {
   SetServiceProcessors({.instances = {{{Id("1"), Once("a")}, {Id("0"), Once("b")}}},
                         .kestleCommands = {{1, Once("k")}}});
-  SetDriverObserver(&trace);
+  SetDriverObserver(&fTrace);
   int length = 5;
   EXPECT_FALSE(Library().sendDotCommand(nullptr, nullptr, &length, 0, 10));
   EXPECT_EQ(length, 0);
@@ -232,7 +241,7 @@ TEST_F(SpDriverTest, BearsNullPointersAndOddLengths) {
   EXPECT_FALSE(Library().sendDotCommand(&nowhere, nullptr, nullptr, 0, 10));
   KestleCmd kestle(2, 1, 1, 255, nullptr, 0, false, true);
   EXPECT_TRUE(Library().sendKestleCommand(&kestle, nullptr, nullptr));
-  EXPECT_EQ(trace.TakeLines().size(), 6U);
+  EXPECT_EQ(fTrace.TakeLines().size(), 6U);
 }
 
 TEST_F(SpDriverTest, CountsTheCommandsThatAreAlive) {
@@ -252,34 +261,34 @@ TEST_F(SpDriverTest, CountsTheCommandsThatAreAlive) {
 TEST_F(SpDriverTest, ShowsInjectedFaults) {
   SetServiceProcessors({.instances = {{{Id("1.1"), {{"a", 1, true}, {"bb", 2, true}}}}},
                         .kestleCommands = {{166, Once("k")}}});
-  SetDriverObserver(&trace);
+  SetDriverObserver(&fTrace);
   for (const BoundaryCall call : {BoundaryCall::DotSend, BoundaryCall::KestleSend}) {
     const auto send = [&] {
       return call == BoundaryCall::DotSend ? SendDot("1.1", 0, 255) : SendKestle(166);
     };
     for (const Fault fault : {Fault::SendFails, Fault::SendIsEmpty}) {
-      trace.Inject(call, fault);
+      fTrace.Inject(call, fault);
       const Sent sent = send();
       EXPECT_EQ(sent.result, fault == Fault::SendIsEmpty);
       EXPECT_EQ(sent.length, 0);
       EXPECT_EQ(sent.buffer, Bytes(255, kUntouched));
     }
-    trace.Inject(call, Fault::StandardException);
+    fTrace.Inject(call, Fault::StandardException);
     EXPECT_EQ(TextThrownBy<std::runtime_error>(send), "injected fault");
-    trace.Inject(call, Fault::OtherException);
+    fTrace.Inject(call, Fault::OtherException);
     EXPECT_THROW(send(), int);
-    EXPECT_EQ(trace.TakeLines().size(), 2U);
+    EXPECT_EQ(fTrace.TakeLines().size(), 2U);
     // A fault takes no reply out of a sequence, and what a send cannot show is none.
-    trace.Inject(call, Fault::EmptyHandle);
+    fTrace.Inject(call, Fault::EmptyHandle);
     EXPECT_EQ(send().length, 1);
-    trace.TakeLines();
+    fTrace.TakeLines();
   }
-  trace.Inject(BoundaryCall::SpQuestion, Fault::StandardException);
+  fTrace.Inject(BoundaryCall::SpQuestion, Fault::StandardException);
   EXPECT_ANY_THROW(Library().isDotcommand());
   EXPECT_ANY_THROW(Library().discoverSPs());
-  trace.Inject(BoundaryCall::ComponentCount, Fault::StandardException);
+  fTrace.Inject(BoundaryCall::ComponentCount, Fault::StandardException);
   EXPECT_ANY_THROW(Library().getComponentdotCmdList(nullptr, 5, nullptr, nullptr, nullptr));
-  EXPECT_TRUE(trace.TakeLines().empty());
+  EXPECT_TRUE(fTrace.TakeLines().empty());
 }
 
 TEST_F(SpDriverTest, AnswersTheSameWhenCommandsTakeTheirTime) {

@@ -7,6 +7,16 @@ namespace strake::tests {
 namespace {
 
 const std::string kEntered = "4 TStrakePluginCallbacks::getDialOutAlerts entered. Instance #1";
+// Of seven elements that are all enabled.
+const std::string kSent =
+    "dot 2 4.2.1.1 sp 0 size 350 -> true 28 "
+    "31950101"
+    "32960101"
+    "33970101"
+    "34980101"
+    "35990101"
+    "369A0101"
+    "379B0101";
 const std::string kCompleted = "4 TStrakePluginCallbacks::getDialOutAlerts completed.";
 
 Scenario Alerts(const std::string& reply) {
@@ -81,10 +91,7 @@ TEST(DialOutAlerts, HaveFiveKeysSevenKindsAndNoInstanceNumber) {
 TEST(DialOutAlerts, AreAskedForWithFourBytesAndCommittedOnce) {
   const Scenario scenario = Alerts(AlertReply(Bytes({1, 1, 1, 1, 1, 1, 1})));
   EXPECT_EQ(scenario.Record().Beginning({"dot 2 4.2", "GetClass", "CreateInstance", "Commit"}),
-            (Lines{"dot 2 4.2.1.1 sp 0 size 350 -> true 28 "
-                   "31950101329601013397010134980101359901013"
-                   "69A0101379B0101",
-                   "GetClass VELKSG_ServProc_DialProtocolEndpoint4",
+            (Lines{kSent, "GetClass VELKSG_ServProc_DialProtocolEndpoint4",
                    "CreateInstance 1 VELKSG_ServProc_DialProtocolEndpoint4", "Commit 1"}));
 }
 

@@ -32,8 +32,8 @@ Lines Unanswered(std::string_view identifier, int length = 0, int sp = 0);
 // One text after the other.
 Lines Join(const std::vector<Lines>& pieces);
 
-// The log lines of the whole dial run of the first SP (or of the next one that
-// begins with `from`), without what senders and records tell.
+// The log lines of the dial driver and of its readers' beginnings, ends and
+// failures: without what senders and records tell.
 Lines DriverLines(const Scenario& scenario);
 // The log lines of a reader from its "entered." line on, that included, to its
 // "completed." line or, where that lacks, to the end.

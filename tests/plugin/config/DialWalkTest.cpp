@@ -31,6 +31,16 @@ std::vector<DialRecord> DialRecords() {
 
 std::string TitleOf(const testing::TestParamInfo<DialRecord>& info) { return info.param.title; }
 
+std::string UpToZero(const std::string& text) { return text.substr(0, text.find('\0')); }
+
+std::string Told(const std::string& name, const std::string& value) {
+  return "log 3 " + name + " = " + value;
+}
+
+std::string Published(std::size_t instance, const std::string& name, const std::string& value) {
+  return "Set " + std::to_string(instance) + " " + name + " string " + value;
+}
+
 // What the walk through a reply logs and sets, as the recorder writes it.
 Lines Walk(const DialRecord& record, std::string reply, std::size_t instance) {
   constexpr std::size_t kBuffer = 350;
@@ -54,12 +64,12 @@ Lines Walk(const DialRecord& record, std::string reply, std::size_t instance) {
     std::string value;
     if (isText) {
       lines.push_back("log 4 [" + name + "] Max length of string = " + std::to_string(at(3)));
-      value = reply.substr(start + 4, static_cast<std::size_t>(std::min(length, at(3)))).c_str();
+      value = UpToZero(reply.substr(start + 4, static_cast<std::size_t>(std::min(length, at(3)))));
     } else {
       value = field.meaning(length == 0 ? 0 : at(3));
     }
-    lines.push_back("log 3 " + name + " = " + value);
-    lines.push_back("Set " + std::to_string(instance) + " " + name + " string " + value);
+    lines.push_back(Told(name, value));
+    lines.push_back(Published(instance, name, value));
     start = (start + 3 + static_cast<std::size_t>(length)) % 256;
   }
   return lines;

@@ -18,6 +18,12 @@ const Lines kKeys = {
     "Instance string 1",
 };
 
+const std::string kEntrySent =
+    "dot 2 4.1.4.1.255 sp 0 size 350 -> true 27 "
+    "2180081055534552494400"
+    "22810101"
+    "238209143535353031393900";
+
 // What each of the four commands logs and sets when it brings data and when not.
 struct Step {
   const char* identifier;
@@ -119,11 +125,8 @@ TEST(DialinSettings, AreCreatedBeforeTheFirstSendAndCommittedAfterTheLast) {
              "Set 1 Name string 9999-AC1-Node1", "Set 1 SourceNode uint8 1",
              "GetSystemCreationClassName -> CIM_ComputerSystem",
              "Set 1 SystemCreationClassName string CIM_ComputerSystem", "Set 1 Instance string 1",
-             "dot 2 4.1.4.1.255 sp 0 size 350 -> true 27 "
-             "2180081055534552494400"
-             "22810101"
-             "238209143535353031393900",
-             "Set 1 LoginID string USERID", "dot 2 4.1.4.1.9 sp 0 size 350 -> true 2 0200",
+             kEntrySent, "Set 1 LoginID string USERID",
+             "dot 2 4.1.4.1.9 sp 0 size 350 -> true 2 0200",
              "dot 2 4.4.2 sp 0 size 350 -> true 2 3C00",
              "dot 2 4.1.4.1.3 sp 0 size 350 -> true 7 090307000E0509",
              "Set 1 LastLogin datetime 20090307140509.000000+060", "Commit 1"}));

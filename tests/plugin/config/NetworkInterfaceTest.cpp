@@ -105,7 +105,7 @@ TEST(NetworkInterface, SetsItsNumberBeforeItTellsItAndEveryFieldAfterwards) {
         "GatewayIPAddress = 192.0.2.1", "BurnedInMACAddress = 00:1A:2B:3C:4D:5E",
         "HostIPSubnetMask = 255.255.255.0"}) {
     std::string set = "Set 1 " + field;
-    set.replace(set.find("="), 1, "string");
+    set.replace(set.find('='), 1, "string");
     EXPECT_EQ(place("log 3 " + field) + 1, place(set));
   }
 }

@@ -63,7 +63,7 @@ Lines Commands(const Scenario& scenario) {
     }
     words >> commandClass >> identifier >> label >> sp;
     if (identifier != "1.1") {
-      commands.push_back(sp + " " + identifier);
+      commands.push_back(sp.append(" ").append(identifier));
     }
   }
   return commands;

@@ -22,6 +22,7 @@ std::vector<PlainElement> ReadPlainly(const PlainRecord& record, const PlainByte
     memory[i] = buffer[i];
   }
   std::vector<PlainElement> elements;
+  elements.reserve(record.fields.size());
   std::size_t start = 0;
   for (const PlainField& field : record.fields) {
     const std::size_t length = memory[start + 2];

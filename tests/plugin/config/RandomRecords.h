@@ -4,13 +4,14 @@
 #include "tests/plugin/config/PlainRecords.h"
 
 #include <cstddef>
-#include <random>
+#include <cstdint>
+#include <iterator>
 
 namespace strake::tests {
 
 class RandomRecords {
  public:
-  explicit RandomRecords(unsigned int seed) : fRandom(seed) {}
+  explicit RandomRecords(std::uint64_t seed) : fState(seed) {}  // not 0
 
   // A buffer of the size with the record's elements in it, or with garbage.
   PlainBytes Next(const PlainRecord& record, std::size_t size) {
@@ -32,10 +33,16 @@ class RandomRecords {
   }
 
  private:
-  // Less than `limit`, which is not 0. A distribution would differ from one
-  // standard library to the next.
-  std::size_t Below(std::size_t limit) { return fRandom() % limit; }
-  unsigned char Any() { return static_cast<unsigned char>(fRandom()); }
+  // The same numbers everywhere, and cheap (xorshift64*).
+  std::uint64_t Draw() {
+    fState ^= fState >> 12U;
+    fState ^= fState << 25U;
+    fState ^= fState >> 27U;
+    return (fState * 0x2545F4914F6CDD1DU) >> 32U;
+  }
+  // Less than `limit`, which is not 0.
+  std::size_t Below(std::size_t limit) { return Draw() % limit; }
+  unsigned char Any() { return static_cast<unsigned char>(Draw()); }
 
   PlainBytes Garbage(std::size_t kind, std::size_t size) {
     PlainBytes bytes(size);
@@ -96,7 +103,7 @@ class RandomRecords {
     return static_cast<unsigned char>(choices[Below(std::size(choices))]);
   }
 
-  std::mt19937 fRandom;
+  std::uint64_t fState;
 };
 
 }  // namespace strake::tests

@@ -101,22 +101,22 @@ TEST(SharedIdentifiers, StayAsTheLastQueryLeftThem) {
   }
 }
 
-// What one SP is asked in one query for its interfaces.
-Lines Asked(const std::string& sp, bool both) {
-  Lines commands;
-  for (const std::string number : {"1", "2"}) {
-    if (number == "2") {
-      commands.push_back(both ? "count 4.9.1.2.255 -> 2" : "count 4.9.1.2.255 -> 1");
-      if (!both) {
-        break;
-      }
-    }
-    commands.push_back(sp + " 4.9.1." + number + ".255");
-    for (int value = 1; value <= 9; ++value) {
-      commands.push_back(sp + " 4.9.1." + number + ".16." + std::to_string(value));
-    }
+// What one SP is asked about one interface.
+Lines AskedAbout(const std::string& spAndInterface) {
+  Lines commands = {spAndInterface + ".255"};
+  for (const char value : std::string("123456789")) {
+    commands.push_back(spAndInterface + ".16." + value);
   }
   return commands;
+}
+
+// What one SP is asked in one query for its interfaces.
+Lines Asked(const std::string& sp, bool both) {
+  const Lines first = AskedAbout(sp + " 4.9.1.1");
+  if (!both) {
+    return Joined({first, {"count 4.9.1.2.255 -> 1"}});
+  }
+  return Joined({first, {"count 4.9.1.2.255 -> 2"}, AskedAbout(sp + " 4.9.1.2")});
 }
 
 TEST(SharedIdentifiers, AreAddressedAnewForEachInterfaceOfEachSPAndQuery) {

@@ -86,7 +86,9 @@ inline Lines SendTrail(const KestleCase& list, const platform::Reply& reply) {
                      ", cmddataLen = 0, ack = 0, isreadflag = 1, ",
                  std::string("4 Result of Kestle cmd: Status: ") + (reply.succeeds ? "1" : "0") +
                      ". ReturnDataLen:" + std::to_string(reply.length) + "."};
-  if (!reply.succeeds) trail.emplace_back("3 Kestle command status = fail.");
+  if (!reply.succeeds) {
+    trail.emplace_back("3 Kestle command status = fail.");
+  }
   trail.push_back(ByteList(reply.bytes, reply.length));
   trail.emplace_back("4 sendKestleCommand completed.");
   return trail;

@@ -47,8 +47,12 @@ const std::vector<FanFamily>& Families() {
 
 // The number in the "calculated" line, as the reader tells it of any length.
 int Calculated(const FanFamily& family, int length) {
-  if (family.selector == 1) return 5;
-  if (family.selector == 2) return 9;
+  if (family.selector == 1) {
+    return 5;
+  }
+  if (family.selector == 2) {
+    return 9;
+  }
   constexpr int kBelowSix[] = {253, 254, 254, 255, 255, 0};
   return length < 6 ? kBelowSix[length] : (length - 6) / 2;
 }
@@ -113,7 +117,9 @@ TEST(KestleFans, EveryLengthIsReadByItsFamilyAndRefusedByTheOthers) {
 TEST(KestleFans, AnotherFamilysReplyIsRefused) {
   for (const FanFamily& family : Families()) {
     for (const FanFamily& other : Families()) {
-      if (&other == &family) continue;
+      if (&other == &family) {
+        continue;
+      }
       for (const int length : other.lengths) {
         ExpectRefusal(family, length,
                       Success(PatternReply(length, static_cast<std::size_t>(length))));
@@ -149,8 +155,8 @@ TEST(KestleFans, ALengthWithoutBytesGivesTheOddNumberOfFansAndNone) {
   EXPECT_EQ(bench.record.Logs(),
             DataTrail(kFanCase, reply,
                       {"4 Fans for Pilkar/Mossel/Fendra.", "3 Num_fans calculated = 253",
-                       "3 Did not obtain correct returnLength for Pilkar/Mossel/Fendra "
-                       "ALERT_FAN_INFORMATION"}));
+                       ("3 Did not obtain correct returnLength for Pilkar/Mossel/Fendra "
+                        "ALERT_FAN_INFORMATION")}));
 }
 
 TEST(KestleFans, LengthTwentyTwoReadsEightFansAndLengthTwentyNoneThoughSevenAreTold) {
@@ -181,8 +187,8 @@ TEST(KestleFans, TheTrailOfSixteenBytesReadsAsPeopleKnowIt) {
             (Lines{
                 "4 GetKestleFan() entered.",
                 "4 sendKestleCommand entered.",
-                "4 Sending Kestle command: Length = 2, cmd = 162, expectedcmd = 162, checksum = "
-                "94, cmddataLen = 0, ack = 0, isreadflag = 1, ",
+                ("4 Sending Kestle command: Length = 2, cmd = 162, expectedcmd = 162, checksum = "
+                 "94, cmddataLen = 0, ack = 0, isreadflag = 1, "),
                 "4 Result of Kestle cmd: Status: 1. ReturnDataLen:16.",
                 "4 h8Data = 16 0 60 6 5 0 15 160 16 4 0 1 255 255 1 0 ",
                 "4 sendKestleCommand completed.",

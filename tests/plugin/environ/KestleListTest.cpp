@@ -83,7 +83,9 @@ const std::vector<Family>& Families() {
 }
 
 int ExpectedReading(const Family& family, const std::string& reply, std::size_t i) {
-  if (!IsVoltage(family)) return BufferByte(reply, family.firstByte + i);
+  if (!IsVoltage(family)) {
+    return BufferByte(reply, family.firstByte + i);
+  }
   const int word = BufferWord(reply, family.firstByte + 2 * i);
   return word < 32768 ? word : word - 65536;
 }
@@ -130,7 +132,9 @@ TEST(KestleLists, EveryFamilysReplyOfTheRightLengthIsReadWhole) {
 TEST(KestleLists, EveryOtherLengthIsRefused) {
   for (const Family& family : Families()) {
     for (int length = 0; length <= 255; ++length) {
-      if (length != family.length) ExpectRefusal(family, Success(PatternReply(length)));
+      if (length != family.length) {
+        ExpectRefusal(family, Success(PatternReply(length)));
+      }
     }
   }
 }
@@ -138,7 +142,9 @@ TEST(KestleLists, EveryOtherLengthIsRefused) {
 TEST(KestleLists, AnotherFamilysReplyIsRefusedUnlessItIsAsLong) {
   for (const Family& family : Families()) {
     for (const Family& other : Families()) {
-      if (&other.list != &family.list) continue;
+      if (&other.list != &family.list) {
+        continue;
+      }
       const Reply reply =
           Success(PatternReply(other.length, static_cast<std::size_t>(other.length)));
       if (other.length == family.length) {
@@ -185,7 +191,9 @@ TEST(KestleLists, ReadingTwiceDoublesTheRecordsAndABadReplyWithdrawsNone) {
     scenario.server.sp.kestleCommands[static_cast<unsigned char>(family.list.code)] = {
         good, good, Success(PatternReply(0))};
     SensorBench bench(scenario);
-    for (int i = 0; i < 3; ++i) family.list.Read(bench.collector, family.selector);
+    for (int i = 0; i < 3; ++i) {
+      family.list.Read(bench.collector, family.selector);
+    }
     EXPECT_EQ(family.list.Records(bench.collector).size(), 2 * family.sensors.size());
   }
 }

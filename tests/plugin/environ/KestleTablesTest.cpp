@@ -17,13 +17,17 @@ std::string Row(const KestleListLayout& layout) {
 TEST(KestleTables, VoltageListsHaveTheirFamiliesLengths) {
   const char* const rows[] = {"Pilkar/Mossel/Fendra 18 from 4: 7", "Tessil 18 from 4: 7",
                               "Nembro 16 from 4: 6", "Blade 30 from 4: 13"};
-  for (std::size_t i = 0; i < kKestleFamilies; ++i) EXPECT_EQ(Row(kKestleVoltages[i]), rows[i]);
+  for (std::size_t i = 0; i < kKestleFamilies; ++i) {
+    EXPECT_EQ(Row(kKestleVoltages[i]), rows[i]);
+  }
 }
 
 TEST(KestleTables, TemperatureListsHaveTheirFamiliesLengths) {
   const char* const rows[] = {"Pilkar/Mossel/Fendra 10 from 6: 4", "Tessil 12 from 6: 6",
                               "Nembro 18 from 6: 7", "Blade 9 from 5: 4"};
-  for (std::size_t i = 0; i < kKestleFamilies; ++i) EXPECT_EQ(Row(kKestleTemperatures[i]), rows[i]);
+  for (std::size_t i = 0; i < kKestleFamilies; ++i) {
+    EXPECT_EQ(Row(kKestleTemperatures[i]), rows[i]);
+  }
 }
 
 TEST(KestleTables, TheSecondNembroTemperatureIsThreeNamesRunTogether) {

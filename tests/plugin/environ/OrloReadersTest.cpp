@@ -50,8 +50,8 @@ TEST(OrloReaders, TheVoltageTrailReadsAsPeopleKnowIt) {
              "4 sendOrloCommand completed.", "3 Planar Voltage +5v = 500",
              "4 sendOrloCommand entered.",
              "4 Sent Orlo command: 2.2.1.2. Status: ADDR. ReturnDataLen:0.",
-             "3 Unable to communicate with system management hardware for dot command: "
-             "2.2.1.2.",
+             ("3 Unable to communicate with system management hardware for dot command: "
+              "2.2.1.2."),
              "4 sendOrloCommand completed.", "3 No data retrieved for Planar Voltage +3.3v"}));
   EXPECT_EQ(logs.at(18), "3 Planar Voltage -12v = -1232");
   EXPECT_EQ(logs.back(), "4 GetOrloVoltage() completed.");
@@ -66,8 +66,8 @@ TEST(OrloReaders, SensorsThatDoNotAnswerLeaveAGapInTheIndices) {
   EXPECT_EQ(RecordTexts(bench.collector.OrloTemps()),
             (Lines{"node 0 index 0 reading 2700 units 2 modifier -2 [Center card temperature]",
                    "node 0 index 9 reading 10000 units 2 modifier -2 [CPU 4 temperature]",
-                   "node 0 index 12 reading 65535 units 2 modifier -2 "
-                   "[DASD Sensor 2 Temperature ]"}));
+                   ("node 0 index 12 reading 65535 units 2 modifier -2 "
+                    "[DASD Sensor 2 Temperature ]")}));
 }
 
 TEST(OrloReaders, ACardThatAnswersNothingYieldsALineForEverySensorAndNoRecords) {

@@ -27,7 +27,9 @@ class BenchRecorder : public Recorder {
   }
   void OnLog(int level, const std::string& message) override {
     Recorder::OnLog(level, message);
-    if (fAtLog) fAtLog(message);
+    if (fAtLog) {
+      fAtLog(message);
+    }
   }
 
  private:

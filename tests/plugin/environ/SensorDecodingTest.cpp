@@ -101,7 +101,9 @@ TEST(SensorDecoding, FansByLengthTruncateTowardZeroAndKeepEightBits) {
   }
   for (int length = 6; length <= 0xFF; ++length) {
     int fans = 0;
-    while (6 + 2 * (fans + 1) <= length) ++fans;
+    while (6 + 2 * (fans + 1) <= length) {
+      ++fans;
+    }
     EXPECT_EQ(KestleFansByLength(Low(length)), fans) << length;
   }
 }

@@ -15,6 +15,15 @@ using NVELKZEV20::SPLibrary;
 using platform::BoundaryCall;
 using platform::Fault;
 
+// The manager must not keep a plug-in that ends with the test's own scope.
+class TheOnlyPlugin {
+ public:
+  TheOnlyPlugin() = default;
+  TheOnlyPlugin(const TheOnlyPlugin&) = delete;
+  TheOnlyPlugin& operator=(const TheOnlyPlugin&) = delete;
+  ~TheOnlyPlugin() { platform::ForgetPlugin(); }
+};
+
 struct Sent {
   int length = -99;
   unsigned char status = 77;  // must be overwritten
@@ -23,32 +32,33 @@ struct Sent {
 
 constexpr unsigned char kExtra = 0;
 
-// Sends 4.4.2 with both senders, on one server after the other.
-class DotSender : public testing::Test {
- protected:
-  ~DotSender() override { platform::ForgetPlugin(); }
+constexpr std::array<unsigned char, 3> kIdentifier = {4, 4, 2};
+constexpr int kSize = 64;
 
-  static Sent ByCollector(SensorBench& bench, unsigned char sp) {
-    bench.collector.SetNode(sp);
-    Sent sent;
-    sent.length = bench.collector.sendOrloCommand(
-        2, 3, 0, kIdentifier.data(), &kExtra, sent.reply.data(), kSize, &sent.status, Library());
-    return sent;
-  }
-  static Sent ByPlugin(unsigned char sp) {
-    TStrakePluginCallbacks plugin;
-    Sent sent;
-    sent.length = plugin.sendCommand(2, 3, 0, kIdentifier.data(), &kExtra, sent.reply.data(), kSize,
-                                     &sent.status, Library(), sp);
-    return sent;
-  }
-  static SPLibrary* Library() { return SPLibrary::GetSplibraryInstance(0); }
+constexpr const char* kNoCommunication =
+    "3 Unable to communicate with system management hardware for dot command: 4.4.2.";
 
-  static constexpr std::array<unsigned char, 3> kIdentifier = {4, 4, 2};
-  static constexpr int kSize = 64;
-};
+SPLibrary* Library() { return SPLibrary::GetSplibraryInstance(0); }
 
-TEST_F(DotSender, TheCollectorsSendTellsNoInstance) {
+// Both send 4.4.2.
+Sent ByCollector(SensorBench& bench, unsigned char sp) {
+  bench.collector.SetNode(sp);
+  Sent sent;
+  sent.length = bench.collector.sendOrloCommand(2, 3, 0, kIdentifier.data(), &kExtra,
+                                                sent.reply.data(), kSize, &sent.status, Library());
+  return sent;
+}
+
+Sent ByPlugin(unsigned char sp) {
+  const TheOnlyPlugin only;
+  TStrakePluginCallbacks plugin;
+  Sent sent;
+  sent.length = plugin.sendCommand(2, 3, 0, kIdentifier.data(), &kExtra, sent.reply.data(), kSize,
+                                   &sent.status, Library(), sp);
+  return sent;
+}
+
+TEST(DotSender, TheCollectorsSendTellsNoInstance) {
   SensorBench bench(Scenario::Orlo(2).Answer("4.4.2", Bytes({0x88, 0xFF}), 1));
   const Sent sent = ByCollector(bench, 1);
   EXPECT_EQ(bench.record.All(),
@@ -62,20 +72,20 @@ TEST_F(DotSender, TheCollectorsSendTellsNoInstance) {
   EXPECT_EQ(sent.reply.at(1), 0xFF);
 }
 
-TEST_F(DotSender, ThePluginsSendTellsTheInstance) {
+TEST(DotSender, ThePluginsSendTellsTheInstance) {
   SensorBench bench(Scenario::Orlo(2).Answer("4.4.2", Bytes({0x88, 0xFF}), 1));
   const Sent sent = ByPlugin(1);
   EXPECT_EQ(bench.record.All(),
             (Lines{"log 4 TStrakePluginCallbacks::sendCommand entered.", "isDotcommand -> true",
                    "dot 2 4.4.2 sp 1 size 64 -> true 2 88FF",
-                   "log 4 Sent command: 4.4.2. Status: ADDR. ReturnDataLen:2 for "
-                   "spInstance#: 1.",
+                   ("log 4 Sent command: 4.4.2. Status: ADDR. ReturnDataLen:2 for "
+                    "spInstance#: 1."),
                    "log 4 TStrakePluginCallbacks::sendCommand completed."}));
   EXPECT_EQ(sent.length, 2);
   EXPECT_EQ(sent.status, 1);
 }
 
-TEST_F(DotSender, AFailedSendIsToldAndReturnsTheLengthAsReported) {
+TEST(DotSender, AFailedSendIsToldAndReturnsTheLengthAsReported) {
   for (const int length : {0, 5, 1000, -3}) {
     SensorBench bench(Scenario::Orlo().Answer("4.4.2", {Failure("", length)}));
     const std::string number = std::to_string(length);
@@ -83,9 +93,7 @@ TEST_F(DotSender, AFailedSendIsToldAndReturnsTheLengthAsReported) {
     EXPECT_EQ(bench.record.Logs(),
               (Lines{"4 sendOrloCommand entered.",
                      "4 Sent Orlo command: 4.4.2. Status: ADDR. ReturnDataLen:" + number + ".",
-                     "3 Unable to communicate with system management hardware for dot command: "
-                     "4.4.2.",
-                     "4 sendOrloCommand completed."}));
+                     kNoCommunication, "4 sendOrloCommand completed."}));
     EXPECT_EQ(sent.length, length);
     EXPECT_EQ(sent.status, 0);
 
@@ -95,15 +103,13 @@ TEST_F(DotSender, AFailedSendIsToldAndReturnsTheLengthAsReported) {
               (Lines{"4 TStrakePluginCallbacks::sendCommand entered.",
                      "4 Sent command: 4.4.2. Status: ADDR. ReturnDataLen:" + number +
                          " for spInstance#: 0.",
-                     "3 Unable to communicate with system management hardware for dot command: "
-                     "4.4.2.",
-                     "4 TStrakePluginCallbacks::sendCommand completed."}));
+                     kNoCommunication, "4 TStrakePluginCallbacks::sendCommand completed."}));
     EXPECT_EQ(again.length, length);
     EXPECT_EQ(again.status, 0);
   }
 }
 
-TEST_F(DotSender, OnAServerWithoutDotCommandsTheLibraryIsNotCalled) {
+TEST(DotSender, OnAServerWithoutDotCommandsTheLibraryIsNotCalled) {
   SensorBench bench(Scenario::Tavit("5120-AC1"));
   const Sent sent = ByCollector(bench, 0);
   EXPECT_EQ(bench.record.All(), (Lines{"log 4 sendOrloCommand entered.", "isDotcommand -> false",
@@ -122,11 +128,13 @@ TEST_F(DotSender, OnAServerWithoutDotCommandsTheLibraryIsNotCalled) {
   EXPECT_EQ(again.status, 0);
 }
 
-TEST_F(DotSender, TheStatusIsToldByItsAddress) {
+TEST(DotSender, TheStatusIsToldByItsAddress) {
+  std::string told;  // the collector's last line comes when it ends
   SensorBench bench(Scenario::Orlo());
-  std::string told;
   bench.record.AtLog([&told](const std::string& message) {
-    if (message.starts_with("Sent Orlo")) told = message;
+    if (message.starts_with("Sent Orlo")) {
+      told = message;
+    }
   });
   std::array<unsigned char, 64> reply{};
   unsigned char status = 0;
@@ -137,10 +145,10 @@ TEST_F(DotSender, TheStatusIsToldByItsAddress) {
   EXPECT_EQ(told, "Sent Orlo command: 4.4.2. Status: " + address.str() + ". ReturnDataLen:0.");
 }
 
-TEST_F(DotSender, TheCommandLivesFromTheEntryLineToTheReturn) {
-  SensorBench bench(Scenario::Orlo().Answer("4.4.2", Bytes({1})));
+TEST(DotSender, TheCommandLivesFromTheEntryLineToTheReturn) {
   const long before = platform::LiveDotCommands();
-  std::vector<long> alive;
+  std::vector<long> alive;  // the collector's last line comes when it ends
+  SensorBench bench(Scenario::Orlo().Answer("4.4.2", Bytes({1})));
   bench.record.AtLog(
       [&](const std::string&) { alive.push_back(platform::LiveDotCommands() - before); });
   ByCollector(bench, 0);
@@ -149,7 +157,7 @@ TEST_F(DotSender, TheCommandLivesFromTheEntryLineToTheReturn) {
   EXPECT_EQ(platform::LiveDotCommands(), before);
 }
 
-TEST_F(DotSender, AThrowingDriverLeavesNoCommandBehind) {
+TEST(DotSender, AThrowingDriverLeavesNoCommandBehind) {
   SensorBench bench(Scenario::Orlo());
   const long before = platform::LiveDotCommands();
   bench.record.Inject(BoundaryCall::DotSend, Fault::StandardException);
@@ -158,7 +166,7 @@ TEST_F(DotSender, AThrowingDriverLeavesNoCommandBehind) {
   EXPECT_EQ(platform::LiveDotCommands(), before);
 }
 
-TEST_F(DotSender, AReplyIsCutToTheCallersBuffer) {
+TEST(DotSender, AReplyIsCutToTheCallersBuffer) {
   SensorBench bench(Scenario::Orlo().Answer("4.4.2", std::string(300, '\x41')));
   std::vector<unsigned char> reply(16);
   unsigned char status = 0;

@@ -37,7 +37,9 @@ Scenario Answering(const Reply& reply) {
 
 std::string Pattern(std::size_t size) {
   std::string bytes;
-  for (std::size_t i = 0; i < size; ++i) bytes.push_back(static_cast<char>(255 - i));
+  for (std::size_t i = 0; i < size; ++i) {
+    bytes.push_back(static_cast<char>(255 - i));
+  }
   return bytes;
 }
 
@@ -46,8 +48,8 @@ TEST(KestleSender, ASuccessfulSendHasThisTrail) {
   const Sent sent = Send(bench);
   EXPECT_EQ(bench.record.All(),
             (Lines{"log 4 sendKestleCommand entered.",
-                   "log 4 Sending Kestle command: Length = 2, cmd = 166, expectedcmd = 166, "
-                   "checksum = 90, cmddataLen = 0, ack = 0, isreadflag = 1, ",
+                   ("log 4 Sending Kestle command: Length = 2, cmd = 166, expectedcmd = 166, "
+                    "checksum = 90, cmddataLen = 0, ack = 0, isreadflag = 1, "),
                    "kestle 2 166 166 90 data 0 ack false read true -> true 3 1200FF",
                    "log 4 Result of Kestle cmd: Status: 1. ReturnDataLen:3.",
                    "log 4 h8Data = 18 0 255 ", "log 4 sendKestleCommand completed."}));
@@ -60,8 +62,8 @@ TEST(KestleSender, AFailedSendHasThisTrailAndReturnsTheLengthAsReported) {
   const Sent sent = Send(bench);
   EXPECT_EQ(bench.record.Logs(),
             (Lines{"4 sendKestleCommand entered.",
-                   "4 Sending Kestle command: Length = 2, cmd = 166, expectedcmd = 166, "
-                   "checksum = 90, cmddataLen = 0, ack = 0, isreadflag = 1, ",
+                   ("4 Sending Kestle command: Length = 2, cmd = 166, expectedcmd = 166, "
+                    "checksum = 90, cmddataLen = 0, ack = 0, isreadflag = 1, "),
                    "4 Result of Kestle cmd: Status: 0. ReturnDataLen:2.",
                    "3 Kestle command status = fail.", "4 h8Data = 7 8 ",
                    "4 sendKestleCommand completed."}));
@@ -89,7 +91,9 @@ TEST(KestleSender, TheDataLineShowsTheReportedBytesAtMostTheBuffer) {
     SensorBench bench(Answering(Reported(bytes, length)));
     const Sent sent = Send(bench);
     std::string line = "4 h8Data = ";
-    for (int i = 0; i < length && i < 255; ++i) line += std::to_string(255 - i) + " ";
+    for (int i = 0; i < length && i < 255; ++i) {
+      line += std::to_string(255 - i) + " ";
+    }
     EXPECT_EQ(bench.record.Logs().at(3), line) << length;
     EXPECT_EQ(bench.record.Logs().at(2),
               "4 Result of Kestle cmd: Status: 1. ReturnDataLen:" + std::to_string(length) + ".");
@@ -123,8 +127,8 @@ TEST(KestleSender, AnEmptyReplyShowsTheLabelAlone) {
 }
 
 TEST(KestleSender, TheCommandIsFreedBeforeTheLastLine) {
+  std::vector<long> alive;  // the collector's last line comes when it ends
   SensorBench bench(Answering(Success(Bytes({1}))));
-  std::vector<long> alive;
   bench.record.AtLog([&](const std::string&) { alive.push_back(platform::LiveKestleCommands()); });
   Send(bench);
   EXPECT_EQ(alive, (std::vector<long>{0, 1, 1, 1, 0}));
