@@ -16,7 +16,6 @@
 #include "platform/session/HostSession.h"
 #include "platform/session/PluginModule.h"
 
-#include <cstdio>
 #include <exception>
 #include <memory>
 #include <ostream>
@@ -116,7 +115,7 @@ void WriteReport(const Report& report, const CollectOptions& options, OutputFile
   }
   if (isJson) {
     for (const platform::EqualKeys& equal : report.equalKeys) {
-      std::fputs(("strake: warning: " + EqualKeysWarning(equal) + "\n").c_str(), stderr);
+      WriteStandardError("strake: warning: " + EqualKeysWarning(equal) + "\n");
     }
   }
 }

@@ -5,6 +5,9 @@
 #include "app/QueryPlan.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
+#include <functional>
+#include <utility>
 
 namespace strake::app {
 namespace {
@@ -185,9 +188,8 @@ CommandLine ParseCommandLine(int argc, const char* const* argv) {
   if (checkCommand.parsed()) {
     return check;
   }
-  constexpr int kLogFileLevel = kHighestLogLevel;
   if (collect.log && collectCommand.count("--log-level") == 0) {
-    collect.logLevel = kLogFileLevel;
+    collect.logLevel = kHighestLogLevel;
   }
   return collect;
 }

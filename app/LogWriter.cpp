@@ -2,8 +2,6 @@
 
 #include "app/TextEscape.h"
 
-#include <cstdio>
-
 namespace strake::app {
 
 void LogWriter::Write(int level, const std::string& message) {
@@ -14,7 +12,7 @@ void LogWriter::Write(int level, const std::string& message) {
   if (fFile != nullptr) {
     fFile->Write(line);
   } else {
-    std::fputs(line.c_str(), stderr);
+    WriteStandardError(line);
   }
 }
 

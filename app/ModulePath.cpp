@@ -5,6 +5,7 @@
 #include <array>
 #include <string>
 #include <system_error>
+#include <utility>
 
 namespace strake::app {
 namespace {
@@ -19,7 +20,7 @@ std::filesystem::path FindModule(const std::filesystem::path& commandFolder) {
   std::filesystem::path previous;
   std::string searched;
   for (const char* const place : kPlaces) {
-    const std::filesystem::path module = (commandFolder / place / kModule).lexically_normal();
+    std::filesystem::path module = (commandFolder / place / kModule).lexically_normal();
     if (module == previous) {
       continue;
     }
@@ -28,7 +29,7 @@ std::filesystem::path FindModule(const std::filesystem::path& commandFolder) {
       return module;
     }
     searched += (searched.empty() ? "" : ", ") + module.parent_path().string();
-    previous = module;
+    previous = std::move(module);
   }
   throw RunError(std::string("no plug-in module ") + kModule + " in " + searched +
                  "; name one with --plugin");

@@ -124,4 +124,6 @@ void WriteStandardOutput(std::string_view bytes) {
   }
 }
 
+void WriteStandardError(std::string_view bytes) { WriteAll(STDERR_FILENO, bytes); }
+
 }  // namespace strake::app

@@ -47,4 +47,7 @@ class OutputFile {
 // Throws RunError: not everything could be written.
 void WriteStandardOutput(std::string_view bytes);
 
+// When standard error takes nothing, nobody is left to tell.
+void WriteStandardError(std::string_view bytes);
+
 }  // namespace strake::app

@@ -3,6 +3,10 @@
 #include "app/Errors.h"
 #include "app/OutputTarget.h"
 
+#include <initializer_list>
+#include <string>
+#include <utility>
+
 namespace strake::app {
 namespace {
 

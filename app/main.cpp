@@ -9,7 +9,6 @@
 #include "platform/server/ServerDescription.h"
 
 #include <csignal>
-#include <cstdio>
 #include <exception>
 #include <string>
 #include <variant>
@@ -26,8 +25,7 @@ struct Runner {
 };
 
 int Fail(const char* text, int status) {
-  const std::string line = "strake: " + EscapeForPeople(text) + "\n";
-  std::fputs(line.c_str(), stderr);
+  WriteStandardError("strake: " + EscapeForPeople(text) + "\n");
   return status;
 }
 
@@ -35,7 +33,7 @@ int Main(int argc, char** argv) {
   try {
     OccupyStandardDescriptors();
     // A reader that went away is a write error like any other.
-    std::signal(SIGPIPE, SIG_IGN);
+    (void)std::signal(SIGPIPE, SIG_IGN);
     std::visit(Runner(), ParseCommandLine(argc, argv));
     return kExitDone;
   } catch (const UsageError& error) {

@@ -3,8 +3,12 @@
 #include "bench/Groups.h"
 
 #include <iomanip>
+#include <unistd.h>
 
 namespace strake::bench {
+
+RatioReporter::RatioReporter()
+    : ConsoleReporter(isatty(STDOUT_FILENO) != 0 ? OO_ColorTabular : OO_Tabular) {}
 
 void RatioReporter::ReportRuns(const std::vector<Run>& runs) {
   ConsoleReporter::ReportRuns(runs);

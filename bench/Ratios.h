@@ -11,6 +11,8 @@ namespace strake::bench {
 
 class RatioReporter : public benchmark::ConsoleReporter {
  public:
+  RatioReporter();
+
   void ReportRuns(const std::vector<Run>& runs) override;
   // Query beside Floor, Silent beside SilentFloor, cost an SP beside that at 4.
   void PrintRatios(std::ostream& out) const;

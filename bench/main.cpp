@@ -12,6 +12,7 @@
 #include <benchmark/benchmark.h>
 #include <boost/make_shared.hpp>
 #include <chrono>
+#include <cstdlib>
 #include <exception>
 #include <iostream>
 
@@ -118,6 +119,18 @@ void RunScale(benchmark::State& state, int sps) {
   state.counters["allocs_per_sp"] = state.counters["allocs"] / sps;
 }
 
+// A fixed number of iterations, for instruction counts; 0: as many as the time
+// allows.
+benchmark::IterationCount FixedIterations() {
+  const char* const text = std::getenv("STRAKE_BENCH_ITERATIONS");
+  return text == nullptr ? 0 : std::strtol(text, nullptr, 10);
+}
+
+void Configure(benchmark::internal::Benchmark& measured) {
+  measured.UseManualTime()->Unit(benchmark::kMicrosecond);
+  if (FixedIterations() > 0) measured.Iterations(FixedIterations());
+}
+
 void Register() {
   for (const Group& group : Groups()) {
     const platform::ServerDescription server = ServerOf(group);
@@ -135,10 +148,9 @@ void Register() {
     add("SilentFloor", RunFloor, false);
   }
   for (const int sps : {1, 4, 16, 64, 255}) {
-    benchmark::RegisterBenchmark(("Scale/" + std::to_string(sps)).c_str(),
-                                 [sps](benchmark::State& state) { RunScale(state, sps); })
-        ->UseManualTime()
-        ->Unit(benchmark::kMicrosecond);
+    Configure(
+        *benchmark::RegisterBenchmark(("Scale/" + std::to_string(sps)).c_str(),
+                                      [sps](benchmark::State& state) { RunScale(state, sps); }));
   }
 }
 

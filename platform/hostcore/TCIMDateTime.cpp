@@ -48,7 +48,8 @@ TCIMDateTime::TCIMDateTime()
 
 TCIMDateTime::TCIMDateTime(const TCIMDateTime& other) = default;
 TCIMDateTime& TCIMDateTime::operator=(const TCIMDateTime& other) = default;
-TCIMDateTime::~TCIMDateTime() = default;
+// The host's declaration makes it no trivial one.
+TCIMDateTime::~TCIMDateTime() {}  // NOLINT(modernize-use-equals-default)
 
 void TCIMDateTime::Set(unsigned short year, unsigned short month, unsigned int day,
                        unsigned short hour, unsigned short minute, unsigned short second,

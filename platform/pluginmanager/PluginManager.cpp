@@ -81,6 +81,8 @@ void TPluginManagerNamespace::GetClass(boost::shared_ptr<ICIMClass>& cimClass,
   cimClass.reset();
 }
 
+// A member by the host's declaration.
+// NOLINTNEXTLINE(readability-convert-member-functions-to-static)
 TPluginManagerProvider* TPluginManagerNamespace::RegisterPlugin(IPluginCallbacks* plugin) {
   TheManager().plugin = plugin;
   return TheManager().providerGiven ? &TheManager().provider : nullptr;

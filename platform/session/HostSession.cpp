@@ -58,8 +58,11 @@ NVELKZEV20::IPluginCallbacks& HostSession::Plugin() const {
   return *fPlugin;
 }
 
+// What the session leads to changes, so these are no const members.
+// NOLINTBEGIN(readability-make-member-function-const)
 void HostSession::Initialize() { Plugin().Initialize(); }
 void HostSession::Deinitialize() { Plugin().Deinitialize(); }
+// NOLINTEND(readability-make-member-function-const)
 
 void HostSession::Query(const std::vector<std::string>& classNames) {
   auto* const face = dynamic_cast<NVELKZEV20::IPluginBasicQueryCallbacks*>(&Plugin());

@@ -4,8 +4,15 @@
 
 namespace {
 
-long gLiveDotCommands = 0;
-long gLiveKestleCommands = 0;
+struct LiveCommands {
+  long dot = 0;
+  long kestle = 0;
+};
+
+LiveCommands& Live() {
+  static LiveCommands live;
+  return live;
+}
 
 }  // namespace
 
@@ -16,10 +23,10 @@ dotCmd::dotCmd(unsigned char commandClass, int identifierLength, int secondLengt
       fIdentifierLength(identifierLength),
       fSecondLength(secondLength),
       fCommandClass(commandClass) {
-  ++gLiveDotCommands;
+  ++Live().dot;
 }
 
-dotCmd::~dotCmd() { --gLiveDotCommands; }
+dotCmd::~dotCmd() { --Live().dot; }
 
 KestleCmd::KestleCmd(unsigned char totalLength, unsigned char commandCode,
                      unsigned char expectedCode, unsigned char checksum, unsigned char* commandData,
@@ -32,14 +39,14 @@ KestleCmd::KestleCmd(unsigned char totalLength, unsigned char commandCode,
       fChecksum(checksum),
       fAcknowledge(acknowledge),
       fIsRead(isRead) {
-  ++gLiveKestleCommands;
+  ++Live().kestle;
 }
 
-KestleCmd::~KestleCmd() { --gLiveKestleCommands; }
+KestleCmd::~KestleCmd() { --Live().kestle; }
 
 namespace strake::platform {
 
-long LiveDotCommands() { return gLiveDotCommands; }
-long LiveKestleCommands() { return gLiveKestleCommands; }
+long LiveDotCommands() { return Live().dot; }
+long LiveKestleCommands() { return Live().kestle; }
 
 }  // namespace strake::platform

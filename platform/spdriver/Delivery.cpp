@@ -7,13 +7,13 @@ namespace strake::platform {
 namespace {
 
 const Reply& FailedReply() {
-  static const Reply reply{{}, 0, false};
-  return reply;
+  static const Reply kReply{{}, 0, false};
+  return kReply;
 }
 
 const Reply& EmptyReply() {
-  static const Reply reply{{}, 0, true};
-  return reply;
+  static const Reply kReply{{}, 0, true};
+  return kReply;
 }
 
 }  // namespace

@@ -11,7 +11,22 @@
 
 namespace NVELKZEV20 {
 
-using namespace strake::platform;
+using strake::platform::BeginCall;
+using strake::platform::BoundaryCall;
+using strake::platform::CountInList;
+using strake::platform::Deliver;
+using strake::platform::Delivery;
+using strake::platform::DriverState;
+using strake::platform::Fault;
+using strake::platform::FaultReply;
+using strake::platform::kComponentIdentifierBytes;
+using strake::platform::KestleSend;
+using strake::platform::kListBufferBytes;
+using strake::platform::Reply;
+using strake::platform::SpDescription;
+using strake::platform::SpKind;
+using strake::platform::TheDriver;
+using strake::platform::WriteCommandList;
 
 namespace {
 
@@ -43,6 +58,9 @@ SPLibrary* SPLibrary::GetSplibraryInstance(int /*reserved*/) {
   static SPLibrary library;
   return &library;
 }
+
+// Members by the platform's declaration, without any state in the object.
+// NOLINTBEGIN(readability-convert-member-functions-to-static)
 
 bool SPLibrary::isDotcommand() {
   return Ask("isDotcommand", [](const SpDescription& sp) {
@@ -168,5 +186,7 @@ int SPLibrary::getComponentdotCmdList(unsigned char* identifier, int identifierL
   }
   return count;
 }
+
+// NOLINTEND(readability-convert-member-functions-to-static)
 
 }  // namespace NVELKZEV20

@@ -52,8 +52,8 @@ TZEVStatusCode TStrakePluginCallbacks::CreateVELKSGComputerSystem(
   }
   const NVELKZEV20::ContextMap context = MakeContext();
   const std::string name = MakeText(systemName, ":Node", NodeNumber(sp));
-  InstanceBuilder instance(kComputerSystem,
-                           {cimNamespace, context, NodeNumber(sp), name, systemName});
+  InstanceBuilder instance(kComputerSystem, {cimNamespace, context, name, systemName});
+  instance.Create(NodeNumber(sp));
   instance.IdentifyAll();
   LogLevel4("FinalSystemName = ", name);
 

@@ -61,6 +61,7 @@ void ReadAndPublish(TStrakePluginCallbacks& callbacks, const DialReader& reader,
     return;
   }
   InstanceBuilder instance(reader.kind, sp.Identity());
+  instance.Create(sp.Number());
   instance.IdentifyAll();
   if (reader.isNumbered) {
     instance.Set("Instance", MakeText(number));

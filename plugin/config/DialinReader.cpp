@@ -99,6 +99,7 @@ TZEVStatusCode TStrakePluginCallbacks::getDialinSettings(const ServiceProcessor&
     // Created before the first send and published whatever the four commands
     // bring.
     InstanceBuilder instance(kDialin, sp.Identity());
+    instance.Create(sp.Number());
     instance.IdentifyAll();
     instance.Set("Instance", MakeText(number));
     ReadLogin(*this, sp, number, instance);

@@ -16,30 +16,39 @@ ContextMap MakeContext() {
 }
 
 InstanceBuilder::InstanceBuilder(const InstanceKind& kind, const InstanceIdentity& identity)
-    : fKind(kind), fIdentity(identity) {
+    : fKind(kind),
+      fNamespace(identity.cimNamespace),
+      fContext(identity.context),
+      fClassName(kind.className),
+      fCreationClassName(kind.creationClassName),
+      fName(identity.name),
+      fSystemName(identity.systemName) {}
+
+void InstanceBuilder::Create(unsigned char sourceNode) {
+  fSourceNode = sourceNode;
+  fInstance.reset();  // a host that gives no handle must not leave the last one
   boost::shared_ptr<ICIMClass> cimClass;
-  Deref(identity.cimNamespace).GetClass(cimClass, kind.className, identity.context);
+  Deref(fNamespace).GetClass(cimClass, fClassName, fContext);
   Deref(cimClass).CreateInstance(fInstance, {});
 }
 
 void InstanceBuilder::Identify(IdentityProperty property) {
   switch (property) {
     case IdentityProperty::CreationClassName:
-      Set("CreationClassName", fKind.creationClassName);
+      Set("CreationClassName", fCreationClassName);
       break;
     case IdentityProperty::SourceNode:
-      Set("SourceNode", fIdentity.sourceNode);
+      Set("SourceNode", fSourceNode);
       break;
     case IdentityProperty::Name:
-      Set("Name", fIdentity.name);
+      Set("Name", fName);
       break;
     case IdentityProperty::SystemCreationClassName:
       // Asked of the host for every instance.
-      Set("SystemCreationClassName",
-          TCIMSchemaHelper::GetSystemCreationClassName(fIdentity.cimNamespace));
+      Set("SystemCreationClassName", TCIMSchemaHelper::GetSystemCreationClassName(fNamespace));
       break;
     case IdentityProperty::SystemName:
-      Set("SystemName", fIdentity.systemName);
+      Set("SystemName", fSystemName);
       break;
   }
 }

@@ -27,11 +27,11 @@ struct InstanceKind {
   std::span<const IdentityProperty> identity = {};  // in the order in which they are set
 };
 
-// What the identity of an instance is made of; all of it outlives the builder.
+// What the identity of an instance is made of; the namespace and the context
+// outlive the builder.
 struct InstanceIdentity {
   const boost::shared_ptr<NVELKZEV20::ICIMNamespace>& cimNamespace;
   const NVELKZEV20::ContextMap& context;
-  unsigned char sourceNode;  // the SP as people count it, from 1
   const std::string& name;
   const std::string& systemName;
 };
@@ -41,10 +41,12 @@ NVELKZEV20::ContextMap MakeContext();
 
 class InstanceBuilder {
  public:
-  // Creates the instance; an empty handle from the host goes to its assertion
-  // handler.
   InstanceBuilder(const InstanceKind& kind, const InstanceIdentity& identity);
 
+  // Creates an instance of the SP that people count as `sourceNode`, from 1; an
+  // empty handle from the host goes to its assertion handler. One builder makes
+  // any number of instances, one after the other.
+  void Create(unsigned char sourceNode);
   void Identify(IdentityProperty property);
   void IdentifyAll();  // in the kind's order
   void Set(std::string_view name, const NVELKZEV20::TCIMValue& value);
@@ -52,7 +54,14 @@ class InstanceBuilder {
 
  private:
   const InstanceKind& fKind;
-  InstanceIdentity fIdentity;
+  const boost::shared_ptr<NVELKZEV20::ICIMNamespace>& fNamespace;
+  const NVELKZEV20::ContextMap& fContext;
+  unsigned char fSourceNode = 0;
+  // Made once, however many instances carry them.
+  std::string fClassName;
+  NVELKZEV20::TCIMValue fCreationClassName;
+  NVELKZEV20::TCIMValue fName;
+  NVELKZEV20::TCIMValue fSystemName;
   boost::shared_ptr<NVELKZEV20::ICIMInstance> fInstance;
   std::string fPropertyName;  // keeps its memory from one property to the next
 };

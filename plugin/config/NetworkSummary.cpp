@@ -59,6 +59,7 @@ constexpr SummaryRecord kRecords[] = {
 
 void PublishNetworkSummary(TStrakePluginCallbacks& callbacks, const ServiceProcessor& sp) {
   InstanceBuilder instance(kSummary, sp.Identity());
+  instance.Create(sp.Number());
   instance.IdentifyAll();
   NetworkReply reply;
   std::string text;

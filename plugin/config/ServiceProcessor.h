@@ -27,10 +27,12 @@ struct ServiceProcessor {
         nodeName(MakeText(machineType, "-Node", NodeNumber(sp))),
         context(MakeContext()) {}
 
+  [[nodiscard]] unsigned char Number() const { return NodeNumber(index); }
+
   // The identity of an instance of this SP, under the SP's own name or another.
   [[nodiscard]] InstanceIdentity Identity() const { return Identity(nodeName); }
   [[nodiscard]] InstanceIdentity Identity(const std::string& name) const {
-    return {cimNamespace, context, NodeNumber(index), name, systemName};
+    return {cimNamespace, context, name, systemName};
   }
 
   boost::shared_ptr<NVELKZEV20::ICIMNamespace> cimNamespace;

@@ -62,6 +62,7 @@ TZEVStatusCode TStrakePluginCallbacks::tcpipcommands(boost::shared_ptr<ICIMNames
 void TStrakePluginCallbacks::PublishNetworkInterfaces(const ServiceProcessor& sp) {
   const std::string firstName = MakeText(sp.nodeName, "-IPInstance#", 1);
   InstanceBuilder first(kInterface, sp.Identity(firstName));
+  first.Create(sp.Number());
   first.IdentifyAll();
   NetworkInterface(sp, first, 1);
   IndividualDHCPValues(sp, first, 1);
@@ -70,6 +71,7 @@ void TStrakePluginCallbacks::PublishNetworkInterfaces(const ServiceProcessor& sp
   // Made whether or not there is a second interface; published only if so.
   const std::string secondName = MakeText(sp.nodeName, "-IPInstance#", 2);
   InstanceBuilder second(kInterface, sp.Identity(secondName));
+  second.Create(sp.Number());
   second.IdentifyAll();
   DotCommandList list(*this, sp.spLib);
   if (!list.IsBuilt()) {

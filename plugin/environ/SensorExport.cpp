@@ -29,20 +29,21 @@ void TSPEnviron::printSensorVector(const std::vector<SensorRecord>& records) {
   const std::string systemName = ReadSystemName(fLogSwitch, fNamespace);
   // Readers of this trail expect the line a second time.
   LogLevel4("printSensorVector() entered.");
+  // A sensor tells its name in another property.
+  const std::string noName;
+  InstanceBuilder instance(kNumericSensorKind, {fNamespace, context, noName, systemName});
   for (const SensorRecord& record : records) {
-    PublishSensor(record, context, systemName);
+    PublishSensor(record, instance);
   }
   LogLevel4("printSensorVector() completed.");
 }
 
-void TSPEnviron::PublishSensor(const SensorRecord& record, const NVELKZEV20::ContextMap& context,
-                               const std::string& systemName) {
+void TSPEnviron::PublishSensor(const SensorRecord& record, InstanceBuilder& instance) const {
   const auto sourceNode = static_cast<unsigned char>(record.Node() + 1);
   const std::string deviceId = MakeText(record.Description(), "-Node", sourceNode);
-  const InstanceIdentity identity = {fNamespace, context, sourceNode, deviceId, systemName};
 
   LogLevel4("Instance          = ", record.DeviceIndex());
-  InstanceBuilder instance(kNumericSensorKind, identity);
+  instance.Create(sourceNode);
   instance.Identify(IdentityProperty::CreationClassName);
   LogLevel4("SourceNode        = ", sourceNode);
   instance.Identify(IdentityProperty::SourceNode);

@@ -16,6 +16,7 @@
 
 namespace strake {
 
+class InstanceBuilder;
 struct KestleFanLayout;
 struct KestleListReader;
 struct OrloReader;
@@ -94,8 +95,7 @@ class TSPEnviron {
   // True when the SP answered with data.
   bool AskKestle(const KestleRequest& request, KestleReply& reply);
   void Export(const char* exporter, const std::vector<SensorRecord>& records);
-  void PublishSensor(const SensorRecord& record, const NVELKZEV20::ContextMap& context,
-                     const std::string& systemName);
+  void PublishSensor(const SensorRecord& record, InstanceBuilder& instance) const;
 
   std::uint16_t fNode = 0;
   [[maybe_unused]] std::uint32_t fSecondWord = 0;  // kept clear

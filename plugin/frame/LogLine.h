@@ -21,8 +21,12 @@ void AppendPart(std::string& text, const char (&literal)[Size]) {
   text.append(literal, Size - 1);
 }
 
+// Bytes are most of the numbers.
+void AppendPart(std::string& text, unsigned char number);
+
 template <std::integral Number>
-requires(!std::same_as<Number, char>) void AppendPart(std::string& text, Number number) {
+requires(!std::same_as<Number, char> &&
+         !std::same_as<Number, unsigned char>) void AppendPart(std::string& text, Number number) {
   char digits[std::numeric_limits<Number>::digits10 + 3];
   const auto end = std::to_chars(std::begin(digits), std::end(digits), +number).ptr;
   text.append(std::begin(digits), end);

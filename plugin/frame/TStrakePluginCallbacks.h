@@ -45,6 +45,8 @@ class TStrakePluginCallbacks : public NVELKZEV20::IPluginCallbacks,
   // Deletes a plug-in object; none is no error.
   static void DestroyObject(TStrakePluginCallbacks* object);
 
+  [[nodiscard]] bool IsLogging() const { return fProvider != nullptr; }
+
   // The logging wrappers: each passes one message, given as its parts, to the
   // logging core with its level.
   template <typename... Parts>

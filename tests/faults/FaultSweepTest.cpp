@@ -1,8 +1,8 @@
 // Everything that can fail at the boundary fails once, at every call there is.
 #include "platform/pluginmanager/ManagerControl.h"
 #include "plugin/frame/ModuleEntry.h"
-#include "tests/support/Allocations.h"
 #include "tests/faults/Collection.h"
+#include "tests/support/Allocations.h"
 
 #include <gtest/gtest.h>
 #include <iostream>

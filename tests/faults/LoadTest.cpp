@@ -6,6 +6,7 @@
 #include "tests/support/Allocations.h"
 #include "tests/support/Scenario.h"
 
+#include <cstdlib>
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <iostream>
@@ -34,12 +35,11 @@ bool CountsHeap() {
   return true;
 }
 
-// The bytes that an object takes.
-long BytesOf(std::size_t size) {
-  const long before = Allocations::LiveBytes();
-  void* const block = ::operator new(size);
-  const long taken = Allocations::LiveBytes() - before;
-  ::operator delete(block);
+// What an object takes of the heap, its header included.
+std::size_t HeapBytesOf(std::size_t size) {
+  void* const block = std::malloc(size);
+  const std::size_t taken = malloc_usable_size(block) + sizeof(std::size_t);
+  std::free(block);
   return taken;
 }
 
@@ -48,23 +48,19 @@ long BytesOf(std::size_t size) {
 template <typename Round>
 void ExpectLeft(Round round, long blocks, std::size_t size) {
   long live = 0;
-  long bytes = 0;
   std::size_t heap = 0;
   for (int i = 1; i <= kRounds; ++i) {
     round();
     if (i == kWarmUp) {
       live = Allocations::Live();
-      bytes = Allocations::LiveBytes();
       heap = mallinfo2().uordblks;
     }
   }
   const long left = blocks * (kRounds - kWarmUp);
   EXPECT_EQ(Allocations::Live() - live, left);
-  EXPECT_EQ(Allocations::LiveBytes() - bytes, left * BytesOf(size));
   if (CountsHeap()) {
-    const auto header = static_cast<long>(sizeof(std::size_t));
     EXPECT_LE(mallinfo2().uordblks - heap,
-              static_cast<std::size_t>(left * (BytesOf(size) + header)) + kCaches);
+              static_cast<std::size_t>(left) * HeapBytesOf(size) + kCaches);
   }
   std::cout << left << " objects of " << size << " bytes are left\n";
 }

@@ -49,11 +49,15 @@ TEST_P(Corpus, EveryInputRunsThroughItsHarness) {
 
 TEST_P(Corpus, NoBytesAreAnInputToo) { EXPECT_EQ(GetParam().run(nullptr, 0), 0); }
 
+std::string HarnessName(const testing::TestParamInfo<Harness>& harness) {
+  return harness.param.name;
+}
+
 INSTANTIATE_TEST_SUITE_P(Of, Corpus,
                          testing::Values(Harness{"query", fuzz::FuzzQuery},
                                          Harness{"walk", fuzz::FuzzWalk},
                                          Harness{"description", fuzz::FuzzDescription}),
-                         [](const auto& info) { return std::string(info.param.name); });
+                         HarnessName);
 
 }  // namespace
 }  // namespace strake::tests

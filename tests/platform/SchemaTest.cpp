@@ -12,7 +12,8 @@ std::string KeysOf(const SchemaClass& schemaClass) {
   std::string keys;
   for (const SchemaProperty& property : schemaClass.properties) {
     if (property.isKey) {
-      keys += (keys.empty() ? "" : " ") + std::string(property.name);
+      keys += keys.empty() ? "" : " ";
+      keys += property.name;
     }
   }
   return keys;

@@ -10,7 +10,6 @@ namespace {
 constexpr long kNever = -1;
 
 long live = 0;
-long liveBytes = 0;
 long made = 0;
 long madeBytes = 0;
 long failing = kNever;
@@ -30,14 +29,12 @@ void* Allocate(std::size_t size) {
     throw std::bad_alloc();
   }
   ++live;
-  liveBytes += static_cast<long>(malloc_usable_size(block));
   return block;
 }
 
 void Free(void* block) noexcept {
   if (block != nullptr) {
     --live;
-    liveBytes -= static_cast<long>(malloc_usable_size(block));
     std::free(block);
   }
 }
@@ -45,7 +42,6 @@ void Free(void* block) noexcept {
 }  // namespace
 
 long Allocations::Live() { return live; }
-long Allocations::LiveBytes() { return liveBytes; }
 long Allocations::Made() { return made; }
 long Allocations::MadeBytes() { return madeBytes; }
 void Allocations::Count() {

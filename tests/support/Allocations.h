@@ -8,7 +8,6 @@ namespace strake::tests {
 
 struct Allocations {
   static long Live();  // blocks that are allocated and not yet freed
-  static long LiveBytes();
   static long Made();       // since Count() began
   static long MadeBytes();  // their sizes as asked for
   static void Count();  // counts from 0

@@ -93,9 +93,8 @@ TEST_F(DialBuilders, CountTheLastServiceProcessorsNodeAsZero) {
             (Lines{"Set 1 SourceNode uint8 0", "Set 1 Name string 9999-AC1-Node0",
                    "Set 2 Name string 9999-AC1-Node0", "Set 2 SourceNode uint8 0",
                    "Set 3 SourceNode uint8 0", "Set 3 Name string 9999-AC1-Node0",
-                   "log 4 Sent command: 4.2.1.1. Status: ADDR. ReturnDataLen:1 for spInstance#: "
-                   "255.",
-                   "Set 5 SourceNode uint8 0", "Set 5 Name string 9999-AC1-Node0"}));
+                   "log " + Answered("4.2.1.1", 1, 255).at(1), "Set 5 SourceNode uint8 0",
+                   "Set 5 Name string 9999-AC1-Node0"}));
 }
 
 TEST_F(DialBuilders, LetGoOfTheNamespaceAndOfTheirCommands) {

@@ -45,6 +45,15 @@ std::string RecordWith(const CodedByte& coded, int byte) {
   return reply;
 }
 
+std::string ToldLine(const DialField& field, int byte) {
+  return std::string("log 3 ") + field.name + " = " + field.meaning(byte);
+}
+
+// Instances count from 1, byte values from 0.
+std::string SetLine(const DialField& field, int byte) {
+  return "Set " + std::to_string(byte + 1) + " " + field.name + " string " + field.meaning(byte);
+}
+
 class DialCodedByte : public testing::TestWithParam<CodedByte> {
  protected:
   // Asks once for each of the 256 values.
@@ -67,9 +76,8 @@ TEST_P(DialCodedByte, ReadsAsItsTableSaysInTheLogAndOnTheInstance) {
   Lines logged;
   Lines set;
   for (int byte = 0; byte < 256; ++byte) {
-    const std::string value = coded.field.meaning(byte);
-    logged.push_back("log 3 " + name + " = " + value);
-    set.push_back("Set " + std::to_string(byte + 1) + " " + name + " string " + value);
+    logged.push_back(ToldLine(coded.field, byte));
+    set.push_back(SetLine(coded.field, byte));
   }
   EXPECT_EQ(scenario.Record().Beginning({"log 3 " + name + " = "}), logged);
   Lines seen;

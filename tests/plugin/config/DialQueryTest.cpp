@@ -167,10 +167,8 @@ TEST(DialQuery, EachServiceProcessorHasItsOwnInstancesUnderItsOwnName) {
               "string VELKSG_ServProc_DialProtocolEndpoint");
   }
   EXPECT_EQ(scenario.Record().Beginning({"log 4 Sent command: 4.2.1.1"}),
-            (Lines{"log 4 Sent command: 4.2.1.1. Status: ADDR. ReturnDataLen:28 for spInstance#: "
-                   "0.",
-                   "log 4 Sent command: 4.2.1.1. Status: ADDR. ReturnDataLen:28 for spInstance#: "
-                   "2."}));
+            (Lines{"log " + Answered("4.2.1.1", 28, 0).at(1),
+                   "log " + Answered("4.2.1.1", 28, 2).at(1)}));
 }
 
 TEST(DialQuery, UnknownMachineAndSystemStandInTheNames) {

@@ -123,12 +123,4 @@ std::string Property(const Scenario& scenario, unsigned long instance, std::stri
   return "unset";
 }
 
-Lines PropertyNames(const Scenario& scenario, unsigned long instance) {
-  Lines names;
-  for (const std::string& property : scenario.Record().Properties(instance)) {
-    names.push_back(property.substr(0, property.find(' ')));
-  }
-  return names;
-}
-
 }  // namespace strake::tests

@@ -41,7 +41,5 @@ Lines ReaderLines(const Scenario& scenario, const std::string& reader, int insta
 
 // An instance's property as "TYPE VALUE"; "unset" when it has none of the name.
 std::string Property(const Scenario& scenario, unsigned long instance, std::string_view name);
-// Names of an instance's properties, in the order in which they were set.
-Lines PropertyNames(const Scenario& scenario, unsigned long instance);
 
 }  // namespace strake::tests

@@ -9,6 +9,8 @@ namespace {
 const std::string kEntered = "4 TStrakePluginCallbacks::getDialoutSettings entered. Instance #1";
 const std::string kCompleted = "4 TStrakePluginCallbacks::getDialoutSettings completed.";
 
+const std::string kCriticalOnly = "Alert recipient receives enabled critical alerts only";
+
 Scenario OneEntry(const std::string& reply) {
   Scenario scenario = Scenario::Orlo();
   scenario.Component("4.1.3.1.255", 1).Answer("4.1.3.1.255", reply).Run({kDialout});
@@ -125,13 +127,12 @@ TEST(DialoutSettings, WithoutAReplyLeaveOneLineAndNoInstance) {
 TEST(DialoutSettings, AShortReplyReadsAsZeros) {
   const Lines properties = OneEntry(Bytes({17})).Record().Properties(1);
   ASSERT_EQ(properties.size(), 17U);
-  EXPECT_EQ(Lines(properties.begin() + 6, properties.end()),
-            (Lines{"DialStatus string Invalid", "PhoneNumberLAN string ", "TextDescription string ",
-                   "ConnectionType string Numeric pager", "DialoutID string ",
-                   "DialoutPassword string ", "PagerPIN string ", "EmailAddress string ",
-                   "PPPLoginID string ", "PPPPassword string ",
-                   "SelectiveAlertNotification string Alert recipient receives enabled critical "
-                   "alerts only"}));
+  EXPECT_EQ(
+      Lines(properties.begin() + 6, properties.end()),
+      (Lines{"DialStatus string Invalid", "PhoneNumberLAN string ", "TextDescription string ",
+             "ConnectionType string Numeric pager", "DialoutID string ", "DialoutPassword string ",
+             "PagerPIN string ", "EmailAddress string ", "PPPLoginID string ",
+             "PPPPassword string ", "SelectiveAlertNotification string " + kCriticalOnly}));
 }
 
 TEST(DialoutSettings, CodesThatNobodyKnowsAreNone) {
@@ -139,13 +140,13 @@ TEST(DialoutSettings, CodesThatNobodyKnowsAreNone) {
     int status;
     int connection;
     int selective;
-    const char* texts[3];
+    std::string texts[3];
   } cases[] = {
       {2,
        8,
        0,
        {"string Valid and enabled", "string Ostrel alert over a LAN connection",
-        "string Alert recipient receives enabled critical alerts only"}},
+        "string " + kCriticalOnly}},
       {1,
        0,
        1,

@@ -32,6 +32,7 @@ constexpr InstanceKind kKind = {kDialProtocolEndpoint4, kDialProtocolEndpoint, k
 TEST_F(InstanceBuilderTest, SetsTheIdentityInTheKindsOrderAndCommits) {
   const ServiceProcessor sp(fNamespace, nullptr, "Unknown MTM", "Unknown SystemName", 2);
   InstanceBuilder instance(kKind, sp.Identity());
+  instance.Create(sp.Number());
   instance.IdentifyAll();
   instance.Commit();
   EXPECT_EQ(
@@ -48,15 +49,15 @@ TEST_F(InstanceBuilderTest, SetsTheIdentityInTheKindsOrderAndCommits) {
 TEST_F(InstanceBuilderTest, TheNodeNumberWrapsInEightBits) {
   const ServiceProcessor sp(fNamespace, nullptr, "MTM", "SYS", 255);
   EXPECT_EQ(sp.nodeName, "MTM-Node0");
-  EXPECT_EQ(sp.Identity().sourceNode, 0);
+  EXPECT_EQ(sp.Number(), 0);
 }
 
 TEST_F(InstanceBuilderTest, AnEmptyNamespaceOrClassReachesTheHostsAssertion) {
   const ServiceProcessor nowhere({}, nullptr, "MTM", "SYS", 0);
-  EXPECT_THROW(InstanceBuilder(kKind, nowhere.Identity()), platform::AssertionError);
+  EXPECT_THROW(InstanceBuilder(kKind, nowhere.Identity()).Create(1), platform::AssertionError);
   constexpr InstanceKind kUnknown = {"CIM_Unknown", "CIM_Unknown"};
   const ServiceProcessor sp(fNamespace, nullptr, "MTM", "SYS", 0);
-  EXPECT_THROW(InstanceBuilder(kUnknown, sp.Identity()), platform::AssertionError);
+  EXPECT_THROW(InstanceBuilder(kUnknown, sp.Identity()).Create(1), platform::AssertionError);
 }
 
 }  // namespace

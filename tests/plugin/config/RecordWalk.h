@@ -20,6 +20,7 @@ class RecordWalk {
   explicit RecordWalk(const char* className)
       : fSession(fServer, &fRecord), fKind{className, className} {
     fSession.Attach(&StrakeModuleEntry);
+    fInstance.Create(fProcessor.Number());
   }
 
   // Walks one buffer; the record then holds this walk alone, its instance being

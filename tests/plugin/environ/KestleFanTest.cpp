@@ -19,7 +19,7 @@ struct FanFamily {
 };
 
 const std::vector<FanFamily>& Families() {
-  static const std::vector<FanFamily> families = {
+  static const std::vector<FanFamily> kFamilies = {
       {0,
        "Pilkar/Mossel/Fendra",
        {16, 18, 22},
@@ -42,7 +42,7 @@ const std::vector<FanFamily>& Families() {
        "  h8Data[i+10]<<8 = ",
        "  h8Data[i+11]<<8 = "},
   };
-  return families;
+  return kFamilies;
 }
 
 // The number in the "calculated" line, as the reader tells it of any length.

@@ -21,7 +21,7 @@ struct Family {
 bool IsVoltage(const Family& family) { return &family.list == &kVoltageCase; }
 
 const std::vector<Family>& Families() {
-  static const std::vector<Family> families = {
+  static const std::vector<Family> kFamilies = {
       {kVoltageCase,
        0,
        "Pilkar/Mossel/Fendra",
@@ -79,7 +79,7 @@ const std::vector<Family>& Families() {
        5,
        {"Ambient Temperature", "CPU 1 Temperature", "CPU 2 Temperature", "DASD 1 Temperature"}},
   };
-  return families;
+  return kFamilies;
 }
 
 int ExpectedReading(const Family& family, const std::string& reply, std::size_t i) {

@@ -12,15 +12,19 @@ namespace {
 using platform::BoundaryCall;
 using platform::Fault;
 
+// The boundary's line of a command that is answered with the byte 1.
+std::string SendOfOneByte(const KestleCase& list) {
+  const std::string code = std::to_string(list.code);
+  return "kestle 2 " + code + " " + code + " " + std::to_string(list.checksum) +
+         " data 0 ack false read true -> true 1 01";
+}
+
 TEST(KestleReaders, AskEachWithItsCodeAndAChecksumThatMakesZero) {
   for (const KestleCase* const list : kKestleCases) {
     EXPECT_EQ((list->code + list->checksum) % 256, 0);
     SensorBench bench(Answering(*list, Success(Bytes({1}))));
     list->Read(bench.collector, 0);
-    const std::string code = std::to_string(list->code);
-    EXPECT_EQ(bench.record.Beginning({"kestle"}),
-              (Lines{"kestle 2 " + code + " " + code + " " + std::to_string(list->checksum) +
-                     " data 0 ack false read true -> true 1 01"}));
+    EXPECT_EQ(bench.record.Beginning({"kestle"}), Lines{SendOfOneByte(*list)});
   }
 }
 
