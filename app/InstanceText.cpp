@@ -157,7 +157,7 @@ std::string InstanceTitle(const platform::StoredInstance& instance) {
   }
   std::string text(title->text);
   if (const NVELKZEV20::TCIMValue* const number = FindProperty(instance, title->number)) {
-    text += " " + ValueForPeople(*number);
+    text.append(" ").append(ValueForPeople(*number));
   }
   return text + " (" + instance.className + ")";
 }

@@ -8,7 +8,8 @@ void LogWriter::Write(int level, const std::string& message) {
   if (level > fHighestLevel) {
     return;
   }
-  const std::string line = "[" + std::to_string(level) + "] " + EscapeForPeople(message) + "\n";
+  std::string line = "[";
+  line.append(std::to_string(level)).append("] ").append(EscapeForPeople(message)).append("\n");
   if (fFile != nullptr) {
     fFile->Write(line);
   } else {

@@ -41,7 +41,10 @@ std::string ScaledReading(std::int32_t reading, std::int32_t modifier) {
     }
     digits.insert(digits.size() - decimals, ".");
   }
-  return (reading < 0 ? "-" : "") + digits;
+  if (reading < 0) {
+    digits.insert(digits.begin(), '-');
+  }
+  return digits;
 }
 
 std::string UnitText(std::uint16_t baseUnits) {
@@ -50,7 +53,7 @@ std::string UnitText(std::uint16_t baseUnits) {
       return std::string(unit.text);
     }
   }
-  return "unit " + std::to_string(baseUnits);
+  return std::string("unit ").append(std::to_string(baseUnits));
 }
 
 }  // namespace strake::app

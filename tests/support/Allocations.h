@@ -7,10 +7,10 @@
 namespace strake::tests {
 
 struct Allocations {
-  static long Live();  // blocks that are allocated and not yet freed
+  static long Live();       // blocks that are allocated and not yet freed
   static long Made();       // since Count() began
   static long MadeBytes();  // their sizes as asked for
-  static void Count();  // counts from 0
+  static void Count();      // counts from 0
   // Told when the first allocation fails; must not allocate.
   using Witness = void (*)(void* context);
   // The k-th allocation from now on throws std::bad_alloc; with `all`, those

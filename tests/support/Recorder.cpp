@@ -29,7 +29,8 @@ std::string CallName(BoundaryCall call) {
 std::string Dotted(std::span<const unsigned char> identifier) {
   std::string text;
   for (const unsigned char byte : identifier) {
-    text += (text.empty() ? "" : ".") + std::to_string(byte);
+    if (!text.empty()) text += '.';
+    text += std::to_string(byte);
   }
   return text;
 }
@@ -106,7 +107,8 @@ Lines Recorder::Properties(unsigned long instance) const {
 void Recorder::OnQuery(const std::vector<std::string>& classes) {
   std::string list;
   for (const std::string& name : classes) {
-    list += (list.empty() ? "" : ",") + name;
+    if (!list.empty()) list += ',';
+    list += name;
   }
   fLines.push_back("query " + list);
 }
