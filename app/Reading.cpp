@@ -39,7 +39,7 @@ std::string ScaledReading(std::int32_t reading, std::int32_t modifier) {
     if (digits.size() <= decimals) {
       digits.insert(0, decimals + 1 - digits.size(), '0');
     }
-    digits.insert(digits.size() - decimals, ".");
+    digits.insert(digits.end() - static_cast<std::ptrdiff_t>(decimals), '.');
   }
   if (reading < 0) {
     digits.insert(digits.begin(), '-');
