@@ -40,7 +40,9 @@ void PublishRecord(const TStrakePluginCallbacks& callbacks, const RecordLayout& 
   ElementCursor element(record);
   std::string text;
   for (const RecordField& field : layout.fields) {
-    if (callbacks.IsLogging()) LogElement(callbacks, layout, field, element);
+    if (callbacks.IsLogging()) {
+      LogElement(callbacks, layout, field, element);
+    }
     text.clear();
     field.decode(FieldValue(element, field.form), text);
     callbacks.LogLevel3(field.name, " = ", text);

@@ -214,7 +214,9 @@ std::optional<std::size_t> TStrakePluginCallbacks::MatchTavitMachine(const std::
   std::size_t index = 0;
   for (const char* const candidate : MachineTypeArray) {
     LogLevel3("CurrentMachineTypeArray = ", candidate);
-    if (machineType == candidate) return index;
+    if (machineType == candidate) {
+      return index;
+    }
     ++index;
   }
   return std::nullopt;

@@ -24,7 +24,7 @@ T& Deref(const boost::shared_ptr<T>& handle) {
   if (px == nullptr) {
     boost::assertion_failed("px != 0", BOOST_CURRENT_FUNCTION, __FILE__, kEmptyHandleLine);
   }
-  // NOLINTNEXTLINE(clang-analyzer-core.NonNullParamChecker): see above.
+  // NOLINTNEXTLINE(clang-analyzer-core.uninitialized.UndefReturn): see above.
   return *px;
 }
 

@@ -63,6 +63,16 @@ void Allocations::FailNever() { failing = kNever; }
 
 void* operator new(std::size_t size) { return strake::tests::Allocate(size); }
 void* operator new[](std::size_t size) { return strake::tests::Allocate(size); }
+void* operator new(std::size_t size, const std::nothrow_t& /*tag*/) noexcept {
+  try {
+    return strake::tests::Allocate(size);
+  } catch (const std::bad_alloc&) {
+    return nullptr;
+  }
+}
+void* operator new[](std::size_t size, const std::nothrow_t& tag) noexcept {
+  return operator new(size, tag);
+}
 void operator delete(void* block) noexcept { strake::tests::Free(block); }
 void operator delete[](void* block) noexcept { strake::tests::Free(block); }
 void operator delete(void* block, std::size_t /*size*/) noexcept { strake::tests::Free(block); }
