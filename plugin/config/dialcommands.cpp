@@ -42,7 +42,7 @@ void ReadGroup(TStrakePluginCallbacks& callbacks, const ServiceProcessor& sp,
     return;
   }
   // Instance numbers are one byte on the wire. Drivers report fewer than 255
-  // instances; a count above that would never be reached.
+  // instances; a count of 255 or more would never be exceeded.
   // NOLINTNEXTLINE(bugprone-too-small-loop-variable)
   for (unsigned char instance = 1; instance <= count; ++instance) {
     callbacks.LogLevel3(group.name, " instance #", instance);
