@@ -70,7 +70,9 @@ TZEVStatusCode TStrakePluginCallbacks::CreateVELKSGComputerSystem(
     try {
       TCIMDateTime clock;
       SetDateTime(clock, time, offset);
-      LogLevel3("SPtime = ", clock.ToString());
+      if (IsLogging()) {
+        LogLevel3("SPtime = ", clock.ToString());
+      }
       instance.Set("SPClock", clock);
     } catch (const std::exception& error) {
       LogLevel1("Unable to set SP Clock due to caught exception ", error.what());

@@ -14,6 +14,7 @@ namespace strake {
 
 using NVELKZEV20::kZEVSuccess;
 using NVELKZEV20::TCIMDateTime;
+using NVELKZEV20::TCIMValue;
 using NVELKZEV20::TZEVStatusCode;
 
 namespace {
@@ -31,9 +32,11 @@ constexpr InstanceKind kDialin = {kDialProtocolEndpoint2, kDialProtocolEndpoint,
 void PublishAuthority(const TStrakePluginCallbacks& callbacks, std::uint16_t authority,
                       InstanceBuilder& instance) {
   callbacks.LogLevel4("Authority Levels value = ", authority);
+  const TCIMValue enabled{std::string(kEnabledWhenSet.other)};
+  const TCIMValue disabled{std::string(kEnabledWhenSet.zero)};
   unsigned int bits = authority;
   for (const std::string_view level : kAuthorityLevels) {
-    instance.Set(level, (bits & 1U) != 0 ? kEnabledWhenSet.other : kEnabledWhenSet.zero);
+    instance.Set(level, (bits & 1U) != 0 ? enabled : disabled);
     bits >>= 1U;
   }
 }

@@ -21,17 +21,18 @@ bool SendRequest(TStrakePluginCallbacks& callbacks, const ServiceProcessor& sp,
 template <std::size_t Size>
 class ReplyBuffer {
  public:
-  void Clear() { fBytes.fill(0); }
-
   // Leaves what the buffer holds where the reply does not reach.
   bool SendUncleared(TStrakePluginCallbacks& callbacks, const ServiceProcessor& sp,
                      std::span<const unsigned char> identifier) {
+    fIsClear = false;
     return SendRequest(callbacks, sp, identifier, fBytes, fLength);
   }
 
   bool Send(TStrakePluginCallbacks& callbacks, const ServiceProcessor& sp,
             std::span<const unsigned char> identifier) {
-    Clear();
+    if (!fIsClear) {
+      fBytes.fill(0);
+    }
     return SendUncleared(callbacks, sp, identifier);
   }
 
@@ -42,6 +43,7 @@ class ReplyBuffer {
 
  private:
   std::array<unsigned char, Size> fBytes{};
+  bool fIsClear = true;
   int fLength = 0;
 };
 

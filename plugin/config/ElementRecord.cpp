@@ -23,29 +23,19 @@ void LogElement(const TStrakePluginCallbacks& callbacks, const RecordLayout& lay
 
 }  // namespace
 
-ByteView FieldValue(const ElementCursor& element, FieldForm form) {
-  switch (form) {
-    case FieldForm::String:
-      return element.Characters();
-    case FieldForm::BoundedText:
-      return element.BoundedCharacters();
-    case FieldForm::Plain:
-      break;
-  }
-  return element.Data();
-}
-
 void PublishRecord(const TStrakePluginCallbacks& callbacks, const RecordLayout& layout,
                    ByteView record, InstanceBuilder& instance) {
   ElementCursor element(record);
-  std::string text;
+  std::string& text = instance.ValueText();
+  const bool isLogging = callbacks.IsLogging();
   for (const RecordField& field : layout.fields) {
-    if (callbacks.IsLogging()) {
-      LogElement(callbacks, layout, field, element);
+    if (isLogging || field.isPublished) {
+      field.decode(FieldValue(element, field.form), text);
     }
-    text.clear();
-    field.decode(FieldValue(element, field.form), text);
-    callbacks.LogLevel3(field.name, " = ", text);
+    if (isLogging) {
+      LogElement(callbacks, layout, field, element);
+      callbacks.LogLevel3(field.name, " = ", text);
+    }
     if (field.isPublished) {
       instance.Set(field.name, text);
     }

@@ -18,6 +18,19 @@ enum class FieldForm {
   BoundedText,  // min(L, M) characters
 };
 
+// The value bytes of the element that the cursor stands on.
+inline ByteView FieldValue(const ElementCursor& element, FieldForm form) {
+  switch (form) {
+    case FieldForm::String:
+      return element.Characters();
+    case FieldForm::BoundedText:
+      return element.BoundedCharacters();
+    case FieldForm::Plain:
+      break;
+  }
+  return element.Data();
+}
+
 struct RecordField {
   std::string_view name;
   FieldForm form = FieldForm::Plain;
@@ -36,8 +49,5 @@ struct RecordLayout {
 // published on the instance.
 void PublishRecord(const TStrakePluginCallbacks& callbacks, const RecordLayout& layout,
                    ByteView record, InstanceBuilder& instance);
-
-// The value bytes of the element that the cursor stands on.
-ByteView FieldValue(const ElementCursor& element, FieldForm form);
 
 }  // namespace strake

@@ -37,7 +37,7 @@ void TStrakePluginCallbacks::IndividualDHCPValues(const ServiceProcessor& sp,
   static_assert(std::size(kDhcpValues) ==
                 std::tuple_size_v<decltype(SharedIdentifiers::dhcpValues)>);
   NetworkReply reply;
-  std::string text;
+  std::string& text = instance.ValueText();
   auto identifier = Identifiers().dhcpValues.begin();
   for (const DhcpValue& value : kDhcpValues) {
     identifier->Address(number);
@@ -45,7 +45,6 @@ void TStrakePluginCallbacks::IndividualDHCPValues(const ServiceProcessor& sp,
       // The line shows the raw bytes as text, of an address too; the dotted
       // form goes only into the property.
       LogLevel3(value.name, " = ", reply.Received().Text());
-      text.clear();
       value.decode(reply.Received(), text);
       instance.Set(value.name, text);
     } else {

@@ -52,6 +52,9 @@ class InstanceBuilder {
   void Set(std::string_view name, const NVELKZEV20::TCIMValue& value);
   void Commit();
 
+  // Room for the text of a value, kept from one value to the next.
+  std::string& ValueText() { return fValueText; }
+
  private:
   const InstanceKind& fKind;
   const boost::shared_ptr<NVELKZEV20::ICIMNamespace>& fNamespace;
@@ -64,6 +67,7 @@ class InstanceBuilder {
   NVELKZEV20::TCIMValue fSystemName;
   boost::shared_ptr<NVELKZEV20::ICIMInstance> fInstance;
   std::string fPropertyName;  // keeps its memory from one property to the next
+  std::string fValueText;
 };
 
 }  // namespace strake

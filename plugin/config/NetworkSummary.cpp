@@ -62,13 +62,12 @@ void PublishNetworkSummary(TStrakePluginCallbacks& callbacks, const ServiceProce
   instance.Create(sp.Number());
   instance.IdentifyAll();
   NetworkReply reply;
-  std::string text;
+  std::string& text = instance.ValueText();
   for (const SummaryValue& value : kValues) {
     if (!reply.Send(callbacks, sp, value.command.Identifier())) {
       callbacks.LogLevel3("No data retrieved for ", value.name);
       continue;
     }
-    text.clear();
     value.decode(reply.Received(), text);
     callbacks.LogLevel3(value.name, " = ", text);
     instance.Set(value.name, text);

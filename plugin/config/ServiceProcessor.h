@@ -2,7 +2,7 @@
 #pragma once
 
 #include "plugin/config/InstanceBuilder.h"
-#include "plugin/frame/LogLine.h"
+#include "plugin/frame/Text.h"
 #include "plugin/host/ICIM.h"
 #include "plugin/spaccess/SPLibrary.h"
 

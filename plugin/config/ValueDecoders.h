@@ -2,20 +2,22 @@
 // than its decoder needs reads as zeros where it ends.
 #pragma once
 
-#include "plugin/frame/LogLine.h"
+#include "plugin/frame/Text.h"
 #include "plugin/spaccess/ByteView.h"
 
+#include <array>
 #include <cstddef>
 #include <string>
+#include <string_view>
 
 namespace strake {
 
-// Appends the text of `value`.
+// Makes `text` the text of `value`; it keeps its memory.
 using ValueDecoder = void (*)(ByteView value, std::string& text);
 
 struct CodeText {
   unsigned char code;
-  const char* text;
+  std::string_view text;
 };
 
 // Byte 0 is a code of the table; any other reads "None".
@@ -23,16 +25,16 @@ template <const auto& Codes>
 void DecodeCode(ByteView value, std::string& text) {
   for (const CodeText& entry : Codes) {
     if (entry.code == value[0]) {
-      text += entry.text;
+      text = entry.text;
       return;
     }
   }
-  text += "None";
+  text = "None";
 }
 
 struct FlagTexts {
-  const char* zero;
-  const char* other;
+  std::string_view zero;
+  std::string_view other;
 };
 
 inline constexpr FlagTexts kEnabledWhenSet = {.zero = "Disabled", .other = "Enabled"};
@@ -41,19 +43,21 @@ inline constexpr FlagTexts kEnabledWhenClear = {.zero = "Enabled", .other = "Dis
 
 template <const FlagTexts& Texts = kEnabledWhenSet>
 void DecodeFlag(ByteView value, std::string& text) {
-  text += value[0] == 0 ? Texts.zero : Texts.other;
+  text = value[0] == 0 ? Texts.zero : Texts.other;
 }
 
-inline void DecodeText(ByteView value, std::string& text) { text += value.Text(); }
+inline void DecodeText(ByteView value, std::string& text) { text = value.Text(); }
 
 // `Count` bytes in decimal, joined by points.
 template <std::size_t Count>
 void DecodePointedDecimal(ByteView value, std::string& text) {
-  AppendPart(text, value[0]);
-  for (std::size_t i = 1; i < Count; ++i) {
-    text.push_back('.');
-    AppendPart(text, value[i]);
+  std::array<unsigned char, Count> bytes{};
+  std::size_t offset = 0;
+  for (unsigned char& byte : bytes) {
+    byte = value[offset++];
   }
+  SetText(text, ByteListText{.bytes = bytes, .behind = '.'});
+  text.pop_back();
 }
 
 // An IP address: 192.0.2.1.

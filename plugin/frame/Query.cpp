@@ -29,14 +29,24 @@ struct TStrakePluginCallbacks::Request {
 struct TStrakePluginCallbacks::FlagsText {
   const TStrakePluginCallbacks& callbacks;
 
-  void AppendTo(std::string& text) const {
+  static std::size_t Most() {
+    std::size_t most = 0;
     for (const Request& request : Requests()) {
-      AppendPart(text, request.flagText);
-      AppendPart(text, callbacks.*request.flag);
+      most += request.flagText.size() + MostCharacters(false);
     }
+    return most;
   }
 
-  friend void AppendPart(std::string& text, const FlagsText& flags) { flags.AppendTo(text); }
+  [[nodiscard]] TextRoom WriteTo(TextRoom room) const {
+    for (const Request& request : Requests()) {
+      room = WritePart(room, request.flagText);
+      room = WritePart(room, callbacks.*request.flag);
+    }
+    return room;
+  }
+
+  friend std::size_t MostCharacters(const FlagsText& /*flags*/) { return Most(); }
+  friend TextRoom WritePart(TextRoom room, const FlagsText& flags) { return flags.WriteTo(room); }
 };
 
 struct TStrakePluginCallbacks::Run {

@@ -30,9 +30,8 @@ class ByteView {
 
   // The text up to the first zero byte or the end of the view.
   [[nodiscard]] std::string_view Text() const {
-    const auto end = std::find(fBytes.begin(), fBytes.end(), static_cast<unsigned char>(0));
-    return {reinterpret_cast<const char*>(fBytes.data()),
-            static_cast<std::size_t>(end - fBytes.begin())};
+    const std::string_view all(reinterpret_cast<const char*>(fBytes.data()), fBytes.size());
+    return all.substr(0, all.find('\0'));
   }
 
   [[nodiscard]] std::uint16_t LittleEndian16(std::size_t offset) const {

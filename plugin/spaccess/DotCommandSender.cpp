@@ -9,7 +9,7 @@ namespace strake {
 namespace {
 
 void LogSent(const void* gate, const SenderWording& wording, const DotCommandCall& call,
-             const DotCommandText& text, int replyLength) {
+             const ByteListText& text, int replyLength) {
   // The status is told by its address, which is what readers of this trail
   // have always seen there.
   const AddressText statusAddress{call.status};
@@ -28,7 +28,8 @@ int SendDotCommand(const void* gate, const SenderWording& wording, const DotComm
   LogLine(gate, 4, wording.entered);
   int replyLength = 0;
   *call.status = 0;
-  const DotCommandText text{{call.identifier, static_cast<std::size_t>(call.identifierLength)}};
+  const ByteListText text =
+      DotCommandText({call.identifier, static_cast<std::size_t>(call.identifierLength)});
   dotCmd command(call.commandClass, call.identifierLength, call.secondLength, call.identifier,
                  call.extraData);
   // Asks what kind of SP this is, not whether the command exists.

@@ -9,10 +9,10 @@ int TStrakePluginCallbacks::sendCommand(unsigned char commandClass, int identifi
                                         const unsigned char* extraData, unsigned char* reply,
                                         int replySize, unsigned char* status,
                                         NVELKZEV20::SPLibrary* spLib, unsigned char sp) {
-  static constexpr SenderWording kWording = {
+  static const SenderWording kWording = {
       .entered = "TStrakePluginCallbacks::sendCommand entered.",
-      .sent = "Sent command: ",
       .completed = "TStrakePluginCallbacks::sendCommand completed.",
+      .sent = "Sent command: ",
       .namesInstance = true,
   };
   return SendDotCommand(fProvider, kWording,

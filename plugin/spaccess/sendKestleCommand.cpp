@@ -9,18 +9,6 @@
 namespace strake {
 namespace {
 
-// The received bytes as a part of a log line: each in decimal, then a blank.
-struct ByteListText {
-  std::span<const unsigned char> bytes;
-};
-
-void AppendPart(std::string& text, const ByteListText& list) {
-  for (const unsigned char byte : list.bytes) {
-    strake::AppendPart(text, byte);
-    text.push_back(' ');
-  }
-}
-
 // What may be shown of a reply: the length is the SP's word, the buffer ours.
 std::span<const unsigned char> Shown(const unsigned char* reply, int replyLength) {
   const int shown = std::clamp(replyLength, 0, static_cast<int>(kKestleReplySize));
@@ -48,7 +36,7 @@ int TSPEnviron::sendKestleCommand(unsigned char length, unsigned char commandCod
   if (!sent) {
     LogLevel3("Kestle command status = fail.");
   }
-  LogLevel4("h8Data = ", ByteListText{Shown(reply, replyLength)});
+  LogLevel4("h8Data = ", ByteListText{.bytes = Shown(reply, replyLength), .behind = ' '});
   command.reset();
   LogLevel4("sendKestleCommand completed.");
   return replyLength;

@@ -8,10 +8,10 @@ int TSPEnviron::sendOrloCommand(unsigned char commandClass, int identifierLength
                                 const unsigned char* identifier, const unsigned char* extraData,
                                 unsigned char* reply, int replySize, unsigned char* status,
                                 NVELKZEV20::SPLibrary* spLib) {
-  static constexpr SenderWording kWording = {
+  static const SenderWording kWording = {
       .entered = "sendOrloCommand entered.",
-      .sent = "Sent Orlo command: ",
       .completed = "sendOrloCommand completed.",
+      .sent = "Sent Orlo command: ",
       .namesInstance = false,
   };
   return SendDotCommand(fLogSwitch, kWording,

@@ -4,6 +4,7 @@
 // Set STRAKE_UPDATE_GOLDEN to write what the plug-in does now; then read the
 // difference before it is committed.
 #include "platform/boundary/TraceWriter.h"
+#include "platform/pluginmanager/ManagerControl.h"
 #include "platform/server/ServerDescription.h"
 #include "platform/session/HostSession.h"
 #include "plugin/config/SharedIdentifiers.h"
@@ -60,6 +61,8 @@ const GoldenCase kCases[] = {
     {"tavit-held", "tavit-held", {{kSensor}, {kComputer}}},
 };
 
+constexpr std::string_view kLogLine = R"({"event":"log")";
+
 std::string MaskAddresses(const std::string& text) {
   static constexpr std::string_view kBefore = " Status: 0x";
   std::string masked;
@@ -114,6 +117,16 @@ TEST_P(GoldenTrace, IsWhatTheQueryDoes) {
     ASSERT_EQ(actualLines[i], expectedLines[i]) << file << ", line " << i + 1;
   }
   EXPECT_EQ(actualLines.size(), expectedLines.size());
+}
+
+// Nothing is built for a line that nobody will see; everything else is done.
+TEST_P(GoldenTrace, IsTheSameButForItsLinesWhenRegistrationGaveNoProvider) {
+  std::vector<std::string> expected = LinesOf(TraceOf(GetParam()));
+  std::erase_if(expected, [](const std::string& line) { return line.starts_with(kLogLine); });
+  platform::SetProviderGiven(false);
+  const std::vector<std::string> silent = LinesOf(TraceOf(GetParam()));
+  platform::SetProviderGiven(true);
+  EXPECT_EQ(silent, expected);
 }
 
 std::string TestName(const testing::TestParamInfo<GoldenCase>& golden) {

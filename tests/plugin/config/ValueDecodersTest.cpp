@@ -155,10 +155,16 @@ TEST(ValueDecoders, MissingBytesReadAsZeros) {
   }
 }
 
-TEST(ValueDecoders, DecodersAddToTheTextThatTheyAreGiven) {
-  std::string text = "MTU ";
-  DecodeMtu(ByteView(), text);
-  EXPECT_EQ(text, "MTU 0 bytes");
+TEST(ValueDecoders, DecodersReplaceTheTextThatTheyAreGiven) {
+  const ValueDecoder decoders[] = {
+      DecodeText,   DecodeAddress,         DecodeMacDecimal, DecodeMacHexadecimal,
+      DecodeMtu,    DecodeBaudRate,        DecodeGuardTime,  DecodeLoginFlags,
+      DecodeFlag<>, DecodeCode<kDhcpCodes>};
+  for (const ValueDecoder decode : decoders) {
+    std::string text = "what the field before it was, longer than any text of zeros";
+    decode(ByteView(), text);
+    EXPECT_EQ(text, Decoded(decode, ""));
+  }
 }
 
 }  // namespace

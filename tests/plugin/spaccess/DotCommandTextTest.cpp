@@ -8,7 +8,7 @@ namespace strake::tests {
 namespace {
 
 std::string Written(const std::vector<unsigned char>& identifier) {
-  return MakeText(DotCommandText{identifier});
+  return MakeText(DotCommandText(identifier));
 }
 
 TEST(DotCommandText, EachByteIsDecimalAndFollowedByAPoint) {
