@@ -26,7 +26,7 @@ void TSPEnviron::Export(const char* exporter, const std::vector<SensorRecord>& r
 void TSPEnviron::printSensorVector(const std::vector<SensorRecord>& records) {
   LogLevel4("printSensorVector() entered.");
   const NVELKZEV20::ContextMap context = MakeContext();
-  const std::string systemName = ReadSystemName(fLogSwitch, fNamespace);
+  const std::string systemName = ReadExportedSystemName(fLogSwitch, fNamespace);
   // Readers of this trail expect the line a second time.
   LogLevel4("printSensorVector() entered.");
   // A sensor tells its name in another property.

@@ -73,10 +73,6 @@ class TSPEnviron {
 
  private:
   template <typename... Parts>
-  void LogLevel2(const Parts&... parts) const {
-    LogLine(fLogSwitch, 2, parts...);
-  }
-  template <typename... Parts>
   void LogLevel3(const Parts&... parts) const {
     LogLine(fLogSwitch, 3, parts...);
   }

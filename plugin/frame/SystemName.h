@@ -9,9 +9,13 @@
 
 namespace strake {
 
-// Asks the host and logs what came of it through `gate`. A host that throws a
-// std::exception costs the name: "Unknown SystemName".
+// Ask the host and log what came of it through `gate`. A host that throws a
+// std::exception costs the name: "Unknown SystemName". The driver goes on
+// whatever throws, the lines on the name too; in the export only the question is
+// guarded.
 std::string ReadSystemName(const void* gate,
                            const boost::shared_ptr<NVELKZEV20::ICIMNamespace>& cimNamespace);
+std::string ReadExportedSystemName(
+    const void* gate, const boost::shared_ptr<NVELKZEV20::ICIMNamespace>& cimNamespace);
 
 }  // namespace strake

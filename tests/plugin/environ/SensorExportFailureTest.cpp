@@ -1,8 +1,10 @@
 // The sensor export on a host that does not play along.
 #include "platform/hostcore/HostControl.h"
+#include "plugin/frame/SystemName.h"
 #include "tests/plugin/environ/SensorBench.h"
 
 #include <gtest/gtest.h>
+#include <stdexcept>
 
 namespace strake::tests {
 namespace {
@@ -45,6 +47,24 @@ TEST(SensorExportFailure, AnotherExceptionOfTheSystemNamePassesToTheCaller) {
   EXPECT_THROW(bench.collector.printSensorVector(Fans(1)), int);
   EXPECT_EQ(bench.record.All(), (Lines{"log 4 printSensorVector() entered.",
                                        "GetSystemName throws unknown exception"}));
+}
+
+// A logger that fails once the name is there: the driver's guard covers it, the
+// export's does not.
+TEST(SensorExportFailure, AThrowingLoggerBehindTheSystemNamePassesToTheCaller) {
+  SensorBench bench(Scenario::Orlo());
+  bench.record.AtLog([](const std::string& message) {
+    if (message == "Obtained SystemName.") {
+      throw std::runtime_error("log is full");
+    }
+  });
+  EXPECT_THROW(bench.collector.printSensorVector(Fans(1)), std::runtime_error);
+  EXPECT_EQ(bench.record.Logs(),
+            (Lines{"4 printSensorVector() entered.", "3 Obtained SystemName."}));
+
+  EXPECT_EQ(ReadSystemName(&kLogSwitch, bench.session.Namespace()), "Unknown SystemName");
+  EXPECT_EQ(bench.record.Logs().back(),
+            "2 Unable to obtain SystemName due to caught exception log is full");
 }
 
 TEST(SensorExportFailure, AnyOtherHostCallThatThrowsPassesToTheCaller) {
