@@ -136,11 +136,10 @@ void Register() {
     const platform::ServerDescription server = ServerOf(group);
     const std::string name = group.name;
     const auto add = [&](const std::string& kind, auto run, bool logs) {
-      benchmark::RegisterBenchmark(
-          (kind + "/" + name).c_str(),
-          [server, &group, run, logs](benchmark::State& state) { run(state, server, group, logs); })
-          ->UseManualTime()
-          ->Unit(benchmark::kMicrosecond);
+      Configure(*benchmark::RegisterBenchmark((kind + "/" + name).c_str(),
+                                              [server, &group, run, logs](benchmark::State& state) {
+                                                run(state, server, group, logs);
+                                              }));
     };
     add("Query", RunQuery, true);
     add("Floor", RunFloor, true);
