@@ -45,7 +45,7 @@ struct ByteText {
   unsigned char length;
 };
 
-constexpr std::array<ByteText, 256> MakeByteTexts() {
+consteval std::array<ByteText, 256> MakeByteTexts() {
   std::array<ByteText, 256> texts{};
   for (unsigned int byte = 0; byte < texts.size(); ++byte) {
     const auto digit = [](unsigned int value) { return static_cast<char>('0' + value % 10); };

@@ -27,6 +27,10 @@ struct GoldenCase {
   std::string name;
   std::string server;  // servers/SERVER.server.json
   std::vector<Classes> queries;
+
+  friend std::ostream& operator<<(std::ostream& out, const GoldenCase& golden) {
+    return out << golden.name;
+  }
 };
 
 const std::string kComputer = "VELKSG_SP_ComputerSystem";

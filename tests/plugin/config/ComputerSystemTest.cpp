@@ -1,4 +1,7 @@
 // The SP itself and its clock.
+#include "platform/session/HostSession.h"
+#include "plugin/frame/ModuleEntry.h"
+#include "plugin/frame/TStrakePluginCallbacks.h"
 #include "tests/support/Scenario.h"
 
 #include <gtest/gtest.h>
@@ -28,6 +31,17 @@ TEST(ComputerSystem, PublishesItsIdentityAndItsClock) {
              "log 3 SPtime = 20100615134530.000000-120",
              "Set 1 SPClock datetime 20100615134530.000000-120", "Commit 1",
              "log 4 CreateVELKSGComputerSystem() completed."}));
+}
+
+TEST(ComputerSystem, StopsBehindItsFirstLineWhenItsClassIsNotWanted) {
+  Recorder record;
+  platform::HostSession session(Scenario::Orlo().server, &record);
+  session.Attach(&StrakeModuleEntry);
+  const auto& plugin = dynamic_cast<const TStrakePluginCallbacks&>(session.Plugin());
+  const auto status = plugin.CreateVELKSGComputerSystem(
+      session.Namespace(), "SRV1", NVELKZEV20::SPLibrary::GetSplibraryInstance(0), 0);
+  EXPECT_EQ(status.Code(), 0);
+  EXPECT_EQ(record.All(), (Lines{"log 4 CreateVELKSGComputerSystem() entered."}));
 }
 
 TEST(ComputerSystem, NumbersSpsFromOneAndUsesTheSystemNameNotTheMtm) {
