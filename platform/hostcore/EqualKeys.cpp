@@ -62,21 +62,31 @@ std::string Describe(const SchemaClass& schemaClass, const KeyValues& values) {
 }  // namespace
 
 std::vector<EqualKeys> Repository::FindEqualKeys() const {
+  struct Group {
+    const SchemaClass& schemaClass;
+    const KeyValues& values;
+    std::size_t count = 0;
+  };
   std::map<std::pair<std::string_view, KeyValues>, std::size_t> places;
-  std::vector<EqualKeys> groups;
+  std::vector<Group> groups;
   for (const StoredInstance& instance : Committed()) {
     // What is committed was created from a class of the schema.
     const SchemaClass& schemaClass = *FindSchemaClass(instance.className);
-    const KeyValues values = KeysOf(schemaClass, instance);
-    const auto [place, isNew] =
-        places.try_emplace(std::pair(schemaClass.name, values), groups.size());
+    const auto [place, isNew] = places.try_emplace(
+        std::pair(schemaClass.name, KeysOf(schemaClass, instance)), groups.size());
     if (isNew) {
-      groups.push_back({instance.className, Describe(schemaClass, values), 0});
+      groups.push_back({.schemaClass = schemaClass, .values = place->first.second});
     }
     ++groups[place->second].count;
   }
-  std::erase_if(groups, [](const EqualKeys& group) { return group.count < 2; });
-  return groups;
+  std::vector<EqualKeys> found;
+  for (const Group& group : groups) {
+    if (group.count > 1) {
+      found.push_back({std::string(group.schemaClass.name),
+                       Describe(group.schemaClass, group.values), group.count});
+    }
+  }
+  return found;
 }
 
 }  // namespace strake::platform
