@@ -15,6 +15,7 @@
 #include <cstdlib>
 #include <exception>
 #include <iostream>
+#include <malloc.h>
 
 namespace strake::bench {
 namespace {
@@ -153,11 +154,20 @@ void Register() {
   }
 }
 
+// Keeps freed memory in the process: otherwise runs that fill the host with
+// thousands of instances measure how fast the kernel hands out pages.
+void KeepMemory() {
+  constexpr int kBytes = 1 << 30;
+  mallopt(M_TRIM_THRESHOLD, kBytes);
+  mallopt(M_MMAP_THRESHOLD, kBytes);
+}
+
 }  // namespace
 }  // namespace strake::bench
 
 int main(int argc, char** argv) {
   try {
+    strake::bench::KeepMemory();
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 2;
     strake::bench::Register();

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstddef>
+#include <cstdlib>
 #include <stdexcept>
 #include <string>
 
@@ -26,12 +27,12 @@ int LastDayOf(int year, int month) {
   return kLastDays.at(static_cast<std::size_t>(month) - 1);
 }
 
-void AppendDigits(std::string& text, unsigned long value, std::size_t width) {
-  const std::string digits = std::to_string(value);
-  if (digits.size() < width) {
-    text.append(width - digits.size(), '0');
+// Writes a number over the zeros before `end`. Fields are held to their widths
+// when they are set.
+void PutDigits(std::string& text, std::size_t end, unsigned int value) {
+  for (; value != 0; value /= 10) {
+    text[--end] = static_cast<char>('0' + value % 10);
   }
-  text += digits;
 }
 
 }  // namespace
@@ -73,18 +74,18 @@ void TCIMDateTime::Set(unsigned short year, unsigned short month, unsigned int d
 }
 
 std::string TCIMDateTime::ToString() const {
-  std::string text;
-  text.reserve(25);
-  AppendDigits(text, fYear, 4);
-  AppendDigits(text, fMonth, 2);
-  AppendDigits(text, fDay, 2);
-  AppendDigits(text, fHour, 2);
-  AppendDigits(text, fMinute, 2);
-  AppendDigits(text, fSecond, 2);
-  text += '.';
-  AppendDigits(text, fMicroseconds, 6);
-  text += fUtcOffset < 0 ? '-' : '+';
-  AppendDigits(text, static_cast<unsigned long>(fUtcOffset < 0 ? -fUtcOffset : fUtcOffset), 3);
+  std::string text = "00000000000000.000000+000";
+  PutDigits(text, 4, fYear);
+  PutDigits(text, 6, fMonth);
+  PutDigits(text, 8, fDay);
+  PutDigits(text, 10, fHour);
+  PutDigits(text, 12, fMinute);
+  PutDigits(text, 14, fSecond);
+  PutDigits(text, 21, fMicroseconds);
+  if (fUtcOffset < 0) {
+    text[21] = '-';
+  }
+  PutDigits(text, 25, static_cast<unsigned int>(std::abs(fUtcOffset)));
   return text;
 }
 
