@@ -3,7 +3,6 @@
 
 #include "plugin/spaccess/SPLibrary.h"
 
-#include <string>
 #include <string_view>
 
 namespace strake {
@@ -24,10 +23,10 @@ struct DotCommandCall {
 
 // How an owner words its trail.
 struct SenderWording {
-  std::string entered;  // whole lines, ready to be logged
-  std::string completed;
-  std::string_view sent;  // how the line on a send begins
-  bool namesInstance;     // and whether it ends with the SP instance
+  std::string_view entered;
+  std::string_view sent;
+  std::string_view completed;
+  bool namesInstance;  // the sent line tells the SP instance
 };
 
 // Sends, logs through `gate` and returns the reply length as reported, 0 when

@@ -9,10 +9,10 @@ int TStrakePluginCallbacks::sendCommand(unsigned char commandClass, int identifi
                                         const unsigned char* extraData, unsigned char* reply,
                                         int replySize, unsigned char* status,
                                         NVELKZEV20::SPLibrary* spLib, unsigned char sp) {
-  static const SenderWording kWording = {
+  static constexpr SenderWording kWording = {
       .entered = "TStrakePluginCallbacks::sendCommand entered.",
-      .completed = "TStrakePluginCallbacks::sendCommand completed.",
       .sent = "Sent command: ",
+      .completed = "TStrakePluginCallbacks::sendCommand completed.",
       .namesInstance = true,
   };
   return SendDotCommand(fProvider, kWording,

@@ -8,10 +8,10 @@ int TSPEnviron::sendOrloCommand(unsigned char commandClass, int identifierLength
                                 const unsigned char* identifier, const unsigned char* extraData,
                                 unsigned char* reply, int replySize, unsigned char* status,
                                 NVELKZEV20::SPLibrary* spLib) {
-  static const SenderWording kWording = {
+  static constexpr SenderWording kWording = {
       .entered = "sendOrloCommand entered.",
-      .completed = "sendOrloCommand completed.",
       .sent = "Sent Orlo command: ",
+      .completed = "sendOrloCommand completed.",
       .namesInstance = false,
   };
   return SendDotCommand(fLogSwitch, kWording,
