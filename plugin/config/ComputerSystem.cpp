@@ -70,9 +70,7 @@ TZEVStatusCode TStrakePluginCallbacks::CreateVELKSGComputerSystem(
     try {
       TCIMDateTime clock;
       SetDateTime(clock, time, offset);
-      if (IsLogging()) {
-        LogLevel3("SPtime = ", clock.ToString());
-      }
+      LogLevel3("SPtime = ", clock.ToString());
       instance.Set("SPClock", clock);
     } catch (const std::exception& error) {
       LogLevel1("Unable to set SP Clock due to caught exception ", error.what());

@@ -9,6 +9,8 @@
 
 #include <cstdint>
 #include <exception>
+#include <string>
+#include <string_view>
 
 namespace strake {
 

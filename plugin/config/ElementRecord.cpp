@@ -26,7 +26,7 @@ void LogElement(const TStrakePluginCallbacks& callbacks, const RecordLayout& lay
 void PublishRecord(const TStrakePluginCallbacks& callbacks, const RecordLayout& layout,
                    ByteView record, InstanceBuilder& instance) {
   ElementCursor element(record);
-  std::string& text = instance.ValueText();
+  std::string text;
   const bool isLogging = callbacks.IsLogging();
   for (const RecordField& field : layout.fields) {
     if (isLogging || field.isPublished) {

@@ -37,7 +37,7 @@ void TStrakePluginCallbacks::IndividualDHCPValues(const ServiceProcessor& sp,
   static_assert(std::size(kDhcpValues) ==
                 std::tuple_size_v<decltype(SharedIdentifiers::dhcpValues)>);
   NetworkReply reply;
-  std::string& text = instance.ValueText();
+  std::string text;
   auto identifier = Identifiers().dhcpValues.begin();
   for (const DhcpValue& value : kDhcpValues) {
     identifier->Address(number);

@@ -52,9 +52,6 @@ class InstanceBuilder {
   void Set(std::string_view name, const NVELKZEV20::TCIMValue& value);
   void Commit();
 
-  // Room for the text of a value, kept from one value to the next.
-  std::string& ValueText() { return fValueText; }
-
  private:
   const InstanceKind& fKind;
   const boost::shared_ptr<NVELKZEV20::ICIMNamespace>& fNamespace;
@@ -67,7 +64,6 @@ class InstanceBuilder {
   NVELKZEV20::TCIMValue fSystemName;
   boost::shared_ptr<NVELKZEV20::ICIMInstance> fInstance;
   std::string fPropertyName;  // keeps its memory from one property to the next
-  std::string fValueText;
 };
 
 }  // namespace strake

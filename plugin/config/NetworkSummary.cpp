@@ -62,7 +62,7 @@ void PublishNetworkSummary(TStrakePluginCallbacks& callbacks, const ServiceProce
   instance.Create(sp.Number());
   instance.IdentifyAll();
   NetworkReply reply;
-  std::string& text = instance.ValueText();
+  std::string text;
   for (const SummaryValue& value : kValues) {
     if (!reply.Send(callbacks, sp, value.command.Identifier())) {
       callbacks.LogLevel3("No data retrieved for ", value.name);

@@ -10,9 +10,8 @@
 namespace strake {
 
 // Ask the host and log what came of it through `gate`. A host that throws a
-// std::exception costs the name: "Unknown SystemName". The driver goes on
-// whatever throws, the lines on the name too; in the export only the question is
-// guarded.
+// std::exception costs the name: "Unknown SystemName". The driver's guard covers
+// the lines on the name too; the export's only the question.
 std::string ReadSystemName(const void* gate,
                            const boost::shared_ptr<NVELKZEV20::ICIMNamespace>& cimNamespace);
 std::string ReadExportedSystemName(

@@ -9,6 +9,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <limits>
+#include <memory>
 #include <span>
 #include <string>
 #include <string_view>
@@ -62,8 +63,12 @@ consteval std::array<ByteText, 256> MakeByteTexts() {
 
 inline constexpr std::array<ByteText, 256> kByteTexts = MakeByteTexts();
 
-constexpr std::size_t MostCharacters(unsigned char /*number*/) { return 3; }
-inline TextRoom WritePart(TextRoom room, unsigned char number) {
+template <std::same_as<unsigned char> Byte>
+constexpr std::size_t MostCharacters(Byte /*number*/) {
+  return 3;
+}
+template <std::same_as<unsigned char> Byte>
+TextRoom WritePart(TextRoom room, Byte number) {
   const ByteText& text = std::span(kByteTexts)[number];
   std::string_view(text.digits.data(), text.digits.size()).copy(room.data(), 3);
   return room.subspan(text.length);
@@ -121,9 +126,19 @@ inline TextRoom WritePart(TextRoom room, const ByteListText& part) {
 // written into every line of the log otherwise.
 void Lengthen(std::string& text, std::size_t size);
 
-// Makes `text` the parts. It keeps its memory.
+// A text that is a part is looked at once: its length must not change between
+// its measuring and its writing.
+template <typename Part>
+decltype(auto) PartOf(const Part& part) {
+  if constexpr (std::same_as<Part, std::string> || std::same_as<Part, const char*>) {
+    return std::string_view(part);
+  } else {
+    return (part);
+  }
+}
+
 template <typename... Parts>
-void SetText(std::string& text, const Parts&... parts) {
+void WriteText(std::string& text, const Parts&... parts) {
   const std::size_t most = (MostCharacters(parts) + ...);
   if (text.size() < most) {
     Lengthen(text, most);
@@ -131,6 +146,12 @@ void SetText(std::string& text, const Parts&... parts) {
   TextRoom room(text);
   ((room = WritePart(room, parts)), ...);
   text.erase(text.size() - room.size());
+}
+
+// Makes `text` the parts, none of which may refer to it. It keeps its memory.
+template <typename... Parts>
+void SetText(std::string& text, const Parts&... parts) {
+  WriteText(text, PartOf(parts)...);
 }
 
 template <typename... Parts>

@@ -116,7 +116,7 @@ void Command::Become(int out, int err) const {
   arguments.push_back(nullptr);
   // A sanitizer's notes about the leak that is intended are no part of the output.
   std::vector<std::string> variables = {
-      "LSAN_OPTIONS=print_suppressions=0:suppressions=" STRAKE_SOURCE_DIR "/tests/lsan.supp"};
+      "LSAN_OPTIONS=print_suppressions=0:suppressions='" STRAKE_SOURCE_DIR "/tests/lsan.supp'"};
   variables.insert(variables.end(), fEnvironment.begin(), fEnvironment.end());
   std::vector<char*> environment;
   environment.reserve(variables.size() + 1);

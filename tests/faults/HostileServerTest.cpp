@@ -133,7 +133,7 @@ TEST(HostileServer, TextOfTheSpIsNeverAFormatString) {
             (Lines{"log 3 SystemLocation = " + evil, "log 3 SystemContact = " + evil}));
 }
 
-TEST(HostileServer, ACountThatChangesBetweenTwoRepliesIsTakenAsItComes) {
+TEST(HostileServer, ACountThatTheSpDoesNotKeepToIsTakenAsItComes) {
   // The component count says three, the SP answers for the second only.
   Scenario scenario = Scenario::Orlo();
   scenario.Component("4.1.3.1.255", 3).Answer("4.1.3.2.255", Bytes({1, 2, 1, 1}));
@@ -141,13 +141,48 @@ TEST(HostileServer, ACountThatChangesBetweenTwoRepliesIsTakenAsItComes) {
   EXPECT_EQ(scenario.Record().Beginning({"log 3 No data", "Commit"}),
             (Lines{"log 3 No data retrieved for Dial out settings.", "Commit 1",
                    "log 3 No data retrieved for Dial out settings."}));
-  // The same list answers full, then empty.
+}
+
+TEST(HostileServer, ATotalThatChangesBetweenTwoRepliesIsTakenAsItComes) {
+  // The same sensor answers, then brings nothing, then answers again.
   Scenario changing = Scenario::Orlo();
   changing.Answer("2.2.1.1", {Success(Bytes({1, 0})), Success(""), Success(Bytes({2, 0}))});
   const Classes sensors = {"VELKSG_SP_NumericSensor"};
   changing.RunAll({sensors, sensors, sensors});
   EXPECT_EQ(changing.Record().Beginning({"log 3 Planar Voltage +5v = "}),
             (Lines{"log 3 Planar Voltage +5v = 1", "log 3 Planar Voltage +5v = 2"}));
+  // A fan list whose length byte tells five fans, then eight, then six.
+  Scenario fans = Scenario::Tavit("5120");
+  const auto list = [](int length) {
+    std::string bytes = Ramp(22);
+    bytes.front() = static_cast<char>(length);
+    return Success(bytes);
+  };
+  fans.server.sp.kestleCommands[0xA2] = {list(16), list(22), list(18)};
+  fans.RunAll({sensors, sensors, sensors});
+  EXPECT_EQ(fans.Record().Beginning({"log 3 Num_fans", "Commit"}),
+            (Lines{"log 3 Num_fans calculated = 5",
+                   "Commit 1",
+                   "Commit 2",
+                   "Commit 3",
+                   "Commit 4",
+                   "Commit 5",
+                   "log 3 Num_fans calculated = 8",
+                   "Commit 6",
+                   "Commit 7",
+                   "Commit 8",
+                   "Commit 9",
+                   "Commit 10",
+                   "Commit 11",
+                   "Commit 12",
+                   "Commit 13",
+                   "log 3 Num_fans calculated = 6",
+                   "Commit 14",
+                   "Commit 15",
+                   "Commit 16",
+                   "Commit 17",
+                   "Commit 18",
+                   "Commit 19"}));
 }
 
 }  // namespace

@@ -1,0 +1,7 @@
+#include "plugin/frame/LogLine.h"
+
+namespace strake {
+
+std::string LineInTheMaking::text;
+
+}  // namespace strake
