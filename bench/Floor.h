@@ -1,35 +1,48 @@
 // The least that a query could cost: the boundary calls of a recorded trace, in
-// its order, with ready-made arguments and nothing between them.
+// its order, with nothing between them.
 #pragma once
 
-#include "bench/Groups.h"
+#include "bench/TraceCalls.h"
 #include "plugin/host/ICIM.h"
+#include "plugin/host/TRootObject.h"
 
+#include <array>
 #include <boost/shared_ptr.hpp>
-#include <functional>
-#include <memory>
 #include <string>
 #include <vector>
 
 namespace strake::bench {
 
-// The trace of one query of the group on its server.
-std::string RecordTrace(const platform::ServerDescription& server, const Group& group);
+enum class Arguments {
+  Ready,  // made before anything is measured
+  Made,   // lines, values and commands made for each call, as a plug-in has to
+};
 
 class Floor {
  public:
-  // Makes the calls of the trace ready; without `logs` it leaves the log out.
-  Floor(const std::string& trace, bool logs);
-  ~Floor();
-  Floor(const Floor&) = delete;
-  Floor& operator=(const Floor&) = delete;
+  Floor(std::vector<Call> calls, Arguments arguments);
 
   void Replay(const boost::shared_ptr<NVELKZEV20::ICIMNamespace>& cimNamespace,
               const std::vector<boost::shared_ptr<NVELKZEV20::ICIMClass>>& classes);
 
  private:
-  class Calls;
-  std::unique_ptr<Calls> fCalls;
+  void Log(const Call& call);
+  void SetProperty(const Call& call);
+  void SendDot(const Call& call);
+  void SendKestle(const Call& call);
+
+  std::vector<Call> fCalls;
+  bool fMakesArguments;
+  std::vector<boost::shared_ptr<NVELKZEV20::ICIMInstance>> fInstances;
+  boost::shared_ptr<NVELKZEV20::ICIMClass> fClass;
+  NVELKZEV20::ContextMap fContext;
+  NVELKZEV20::TNameToValueMap fNothing;
+  NVELKZEV20::ILogger& fLogger;
+  NVELKZEV20::SPLibrary& fLibrary;
+  std::string fLine;
+  std::string fName;
+  std::array<unsigned char, 4096> fReply{};
+  std::array<std::array<unsigned char, 4096>, 3> fList{};
 };
 
 }  // namespace strake::bench

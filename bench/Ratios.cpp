@@ -2,8 +2,10 @@
 
 #include "bench/Groups.h"
 
+#include <array>
 #include <iomanip>
 #include <unistd.h>
+#include <utility>
 
 namespace strake::bench {
 
@@ -26,16 +28,20 @@ void RatioReporter::PrintRatios(std::ostream& out) const {
     const auto above = fMedians.find(what);
     const auto below = fMedians.find(floor);
     if (above == fMedians.end() || below == fMedians.end()) return;
-    out << std::left << std::setw(28) << what << std::right << std::fixed << std::setprecision(1)
-        << std::setw(10) << above->second << " us" << std::setw(10) << below->second << " us  "
-        << std::setprecision(3) << above->second / below->second << '\n';
+    out << std::left << std::setw(24) << what << std::setw(30) << floor << std::right << std::fixed
+        << std::setprecision(1) << std::setw(10) << above->second << " us" << std::setw(10)
+        << below->second << " us  " << std::setprecision(3) << above->second / below->second
+        << '\n';
   };
-  out << "\nmedians, beside their floor, and the ratio\n";
-  for (const Group& group : Groups()) {
-    ratio("Query/" + std::string(group.name), "Floor/" + std::string(group.name));
-  }
-  for (const Group& group : Groups()) {
-    ratio("Silent/" + std::string(group.name), "SilentFloor/" + std::string(group.name));
+  out << "\nmedians, beside their floors, and the ratio\n";
+  for (const auto& [what, floors] :
+       {std::pair("Query/", std::array{"Floor/", "MadeFloor/"}),
+        std::pair("Silent/", std::array{"SilentFloor/", "SilentMadeFloor/"})}) {
+    for (const char* const floor : floors) {
+      for (const Group& group : Groups()) {
+        ratio(what + std::string(group.name), floor + std::string(group.name));
+      }
+    }
   }
   const auto few = fMedians.find("Scale/4");
   const auto many = fMedians.find("Scale/255");

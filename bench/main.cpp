@@ -101,11 +101,12 @@ void RunQuery(benchmark::State& state, const platform::ServerDescription& server
           [&plugin](const Target& target) { plugin.Query(target.cimNamespace, target.classes); });
 }
 
+template <Arguments How>
 void RunFloor(benchmark::State& state, const platform::ServerDescription& server,
               const Group& group, bool logs) {
   Tally tally = TallyOf(server, group);
   if (!logs) tally.logs = 0;
-  Floor floor(RecordTrace(server, group), logs);
+  Floor floor(CallsOf(RecordTrace(server, group), logs), How);
   const platform::HostSession session(server);
   Measure(state, group, tally,
           [&floor](const Target& target) { floor.Replay(target.cimNamespace, target.classes); });
@@ -143,9 +144,11 @@ void Register() {
                                               }));
     };
     add("Query", RunQuery, true);
-    add("Floor", RunFloor, true);
+    add("Floor", RunFloor<Arguments::Ready>, true);
+    add("MadeFloor", RunFloor<Arguments::Made>, true);
     add("Silent", RunQuery, false);
-    add("SilentFloor", RunFloor, false);
+    add("SilentFloor", RunFloor<Arguments::Ready>, false);
+    add("SilentMadeFloor", RunFloor<Arguments::Made>, false);
   }
   for (const int sps : {1, 4, 16, 64, 255}) {
     Configure(
