@@ -19,7 +19,7 @@ using NVELKZEV20::TRootObject;
 
 Floor::Floor(std::vector<Call> calls, Arguments arguments)
     : fCalls(std::move(calls)),
-      fMakesArguments(arguments == Arguments::Made),
+      fArguments(arguments),
       fContext(MakeContext()),
       fLogger(*TRootObject::GetCoreLogger()),
       fLibrary(*SPLibrary::GetSplibraryInstance(0)) {
@@ -31,14 +31,20 @@ Floor::Floor(std::vector<Call> calls, Arguments arguments)
 }
 
 // A line that is made is at least copied.
+template <Arguments How>
 void Floor::Log(const Call& call) {
-  if (fMakesArguments) fLine = call.text;
-  fLogger.Log(call.level, fMakesArguments ? fLine : call.text);
+  if constexpr (How == Arguments::Made) {
+    fLine = call.text;
+    fLogger.Log(call.level, fLine);
+  } else {
+    fLogger.Log(call.level, call.text);
+  }
 }
 
+template <Arguments How>
 void Floor::SetProperty(const Call& call) {
   NVELKZEV20::ICIMInstance& instance = *fInstances[call.instance];
-  if (fMakesArguments) {
+  if constexpr (How == Arguments::Made) {
     fName = call.text;
     instance.SetProperty(fName, MakeValue(call.source), {});
   } else {
@@ -47,9 +53,10 @@ void Floor::SetProperty(const Call& call) {
 }
 
 // The room for a reply is part of what is made: it is cleared.
+template <Arguments How>
 void Floor::SendDot(const Call& call) {
   int length = 0;
-  if (fMakesArguments) {
+  if constexpr (How == Arguments::Made) {
     static constexpr unsigned char kNoExtraData = 0;
     std::fill_n(fReply.begin(), call.size, static_cast<unsigned char>(0));
     dotCmd command(call.commandClass, static_cast<int>(call.identifier.size()), 0,
@@ -60,9 +67,10 @@ void Floor::SendDot(const Call& call) {
   }
 }
 
+template <Arguments How>
 void Floor::SendKestle(const Call& call) {
   int length = 0;
-  if (fMakesArguments) {
+  if constexpr (How == Arguments::Made) {
     std::fill_n(fReply.begin(), 255, static_cast<unsigned char>(0));
     fLibrary.sendKestleCommand(MakeKestleCommand(call).get(), &length, fReply.data());
   } else {
@@ -72,10 +80,20 @@ void Floor::SendKestle(const Call& call) {
 
 void Floor::Replay(const boost::shared_ptr<ICIMNamespace>& cimNamespace,
                    const std::vector<boost::shared_ptr<ICIMClass>>& classes) {
+  if (fArguments == Arguments::Made) {
+    ReplayWith<Arguments::Made>(cimNamespace, classes);
+  } else {
+    ReplayWith<Arguments::Ready>(cimNamespace, classes);
+  }
+}
+
+template <Arguments How>
+void Floor::ReplayWith(const boost::shared_ptr<ICIMNamespace>& cimNamespace,
+                       const std::vector<boost::shared_ptr<ICIMClass>>& classes) {
   for (Call& call : fCalls) {
     switch (call.kind) {
       case Kind::Log:
-        Log(call);
+        Log<How>(call);
         break;
       case Kind::MachineType:
         TOSSpecific::GetMachineTypeFromID();
@@ -99,7 +117,7 @@ void Floor::Replay(const boost::shared_ptr<ICIMNamespace>& cimNamespace,
         fClass->CreateInstance(fInstances[call.instance], fNothing);
         break;
       case Kind::Set:
-        SetProperty(call);
+        SetProperty<How>(call);
         break;
       case Kind::Commit:
         fInstances[call.instance]->Commit({});
@@ -130,10 +148,10 @@ void Floor::Replay(const boost::shared_ptr<ICIMNamespace>& cimNamespace,
                                         fList[2].data());
         break;
       case Kind::Dot:
-        SendDot(call);
+        SendDot<How>(call);
         break;
       case Kind::Kestle:
-        SendKestle(call);
+        SendKestle<How>(call);
         break;
     }
   }

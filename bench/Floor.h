@@ -26,13 +26,21 @@ class Floor {
               const std::vector<boost::shared_ptr<NVELKZEV20::ICIMClass>>& classes);
 
  private:
+  // Written out for each kind of arguments, so that nothing is asked in between.
+  template <Arguments How>
+  void ReplayWith(const boost::shared_ptr<NVELKZEV20::ICIMNamespace>& cimNamespace,
+                  const std::vector<boost::shared_ptr<NVELKZEV20::ICIMClass>>& classes);
+  template <Arguments How>
   void Log(const Call& call);
+  template <Arguments How>
   void SetProperty(const Call& call);
+  template <Arguments How>
   void SendDot(const Call& call);
+  template <Arguments How>
   void SendKestle(const Call& call);
 
   std::vector<Call> fCalls;
-  bool fMakesArguments;
+  Arguments fArguments;
   std::vector<boost::shared_ptr<NVELKZEV20::ICIMInstance>> fInstances;
   boost::shared_ptr<NVELKZEV20::ICIMClass> fClass;
   NVELKZEV20::ContextMap fContext;

@@ -60,7 +60,7 @@ void ReadAndPublish(TStrakePluginCallbacks& callbacks, const DialReader& reader,
     callbacks.LogLevel3(reader.noData);
     return;
   }
-  InstanceBuilder instance(reader.kind, sp.Identity());
+  InstanceBuilder& instance = sp.Builder(reader.kind);
   instance.Create(sp.Number());
   instance.IdentifyAll();
   if (reader.isNumbered) {

@@ -103,7 +103,7 @@ TZEVStatusCode TStrakePluginCallbacks::getDialinSettings(const ServiceProcessor&
   if (fServProc_DialProtocolEndpoint2) {
     // Created before the first send and published whatever the four commands
     // bring.
-    InstanceBuilder instance(kDialin, sp.Identity());
+    InstanceBuilder& instance = sp.Builder(kDialin);
     instance.Create(sp.Number());
     instance.IdentifyAll();
     instance.Set("Instance", MakeText(number));

@@ -64,6 +64,9 @@ void InstanceBuilder::Set(std::string_view name, const NVELKZEV20::TCIMValue& va
   Deref(fInstance).SetProperty(fPropertyName, value, {});
 }
 
-void InstanceBuilder::Commit() { Deref(fInstance).Commit({}); }
+void InstanceBuilder::Commit() {
+  Deref(fInstance).Commit({});
+  fInstance.reset();
+}
 
 }  // namespace strake

@@ -43,6 +43,8 @@ class InstanceBuilder {
  public:
   InstanceBuilder(const InstanceKind& kind, const InstanceIdentity& identity);
 
+  [[nodiscard]] const InstanceKind& Kind() const { return fKind; }
+
   // Creates an instance of the SP that people count as `sourceNode`, from 1; an
   // empty handle from the host goes to its assertion handler. One builder makes
   // any number of instances, one after the other.
@@ -50,7 +52,7 @@ class InstanceBuilder {
   void Identify(IdentityProperty property);
   void IdentifyAll();  // in the kind's order
   void Set(std::string_view name, const NVELKZEV20::TCIMValue& value);
-  void Commit();
+  void Commit();  // and lets go of the instance
 
  private:
   const InstanceKind& fKind;

@@ -58,7 +58,7 @@ constexpr SummaryRecord kRecords[] = {
 }  // namespace
 
 void PublishNetworkSummary(TStrakePluginCallbacks& callbacks, const ServiceProcessor& sp) {
-  InstanceBuilder instance(kSummary, sp.Identity());
+  InstanceBuilder& instance = sp.Builder(kSummary);
   instance.Create(sp.Number());
   instance.IdentifyAll();
   NetworkReply reply;

@@ -7,6 +7,7 @@
 #include "plugin/spaccess/SPLibrary.h"
 
 #include <boost/shared_ptr.hpp>
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -26,6 +27,9 @@ struct ServiceProcessor {
         index(sp),
         nodeName(MakeText(machineType, "-Node", NodeNumber(sp))),
         context(MakeContext()) {}
+  ServiceProcessor(const ServiceProcessor&) = delete;  // the builder refers to it
+  ServiceProcessor& operator=(const ServiceProcessor&) = delete;
+  ~ServiceProcessor() = default;
 
   [[nodiscard]] unsigned char Number() const { return NodeNumber(index); }
 
@@ -35,6 +39,15 @@ struct ServiceProcessor {
     return {cimNamespace, context, name, systemName};
   }
 
+  // The builder of the SP's instances of one kind, under its own name. Instances
+  // of a kind come one after the other, so the last builder is kept.
+  InstanceBuilder& Builder(const InstanceKind& kind) const {
+    if (!lastBuilder || &lastBuilder->Kind() != &kind) {
+      lastBuilder.emplace(kind, Identity());
+    }
+    return *lastBuilder;
+  }
+
   boost::shared_ptr<NVELKZEV20::ICIMNamespace> cimNamespace;
   NVELKZEV20::SPLibrary* spLib;
   std::string machineType;
@@ -42,6 +55,7 @@ struct ServiceProcessor {
   unsigned char index;
   std::string nodeName;  // the machine type, "-Node" and the number
   NVELKZEV20::ContextMap context;
+  mutable std::optional<InstanceBuilder> lastBuilder;
 };
 
 }  // namespace strake
