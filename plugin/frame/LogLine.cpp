@@ -2,6 +2,7 @@
 
 namespace strake {
 
+// NOLINTNEXTLINE(cppcoreguidelines-avoid-non-const-global-variables): see there.
 std::string LineInTheMaking::text;
 
 }  // namespace strake
