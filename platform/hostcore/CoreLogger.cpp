@@ -19,13 +19,14 @@ class CoreLogger : public ILogger {
   }
 };
 
+// The process' one logger. Asked for before every line, so it needs no guard.
+// NOLINTNEXTLINE(cppcoreguidelines-avoid-non-const-global-variables)
+constinit CoreLogger theLogger;
+
 }  // namespace
 
 ILogger::~ILogger() = default;
 
-ILogger* TRootObject::GetCoreLogger() {
-  static CoreLogger logger;
-  return &logger;
-}
+ILogger* TRootObject::GetCoreLogger() { return &theLogger; }
 
 }  // namespace NVELKZEV20
