@@ -5,7 +5,6 @@
 #include "plugin/frame/TStrakePluginCallbacks.h"
 #include "plugin/spaccess/ByteView.h"
 
-#include <algorithm>
 #include <array>
 #include <exception>
 
@@ -28,27 +27,18 @@ constexpr InstanceKind kComputerSystem = {kSPComputerSystem, kSPComputerSystem, 
 
 constexpr std::array<unsigned char, 3> kReadClock = {4, 4, 1};
 constexpr unsigned char kNoExtraData = 0;
-constexpr int kReplySize = 2048;
+constexpr std::size_t kReplySize = 2048;
 
-// Both commands go out without the sender's trail, into one reply. What is
-// decoded of it is cleared before each send, the rest never.
-// NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init)
-class ClockReply {
- public:
+// Both commands go out without the sender's trail, into one reply.
+struct ClockReply {
+  std::array<unsigned char, kReplySize> bytes{};
+  int length = 0;
+
   // Here alone a reply length is a signed number: data came when it is above 0.
   bool Read(SPLibrary* spLib, unsigned char sp, std::span<const unsigned char> identifier) {
-    std::ranges::fill(Decoded(), static_cast<unsigned char>(0));
     dotCmd command(2, static_cast<int>(identifier.size()), 0, identifier.data(), &kNoExtraData);
-    return spLib->sendDotCommand(&command, fBytes.data(), &fLength, sp, kReplySize) && fLength > 0;
+    return spLib->sendDotCommand(&command, bytes.data(), &length, sp, kReplySize) && length > 0;
   }
-
-  [[nodiscard]] ByteView Bytes() { return ByteView(Decoded()); }
-
- private:
-  std::span<unsigned char> Decoded() { return std::span(fBytes).first<kSpTimeBytes>(); }
-
-  std::array<unsigned char, kReplySize> fBytes;
-  int fLength = 0;
 };
 
 }  // namespace
@@ -69,10 +59,11 @@ TZEVStatusCode TStrakePluginCallbacks::CreateVELKSGComputerSystem(
 
   ClockReply reply;
   if (reply.Read(spLib, sp, kReadClock)) {
-    const SpTime time = DecodeSpTime(reply.Bytes());
+    const SpTime time = DecodeSpTime(ByteView(reply.bytes));
     std::uint16_t offset = 0;
+    reply.bytes.fill(0);
     if (reply.Read(spLib, sp, kReadTimeZone)) {
-      offset = DecodeUtcOffset(reply.Bytes());
+      offset = DecodeUtcOffset(ByteView(reply.bytes));
     } else {
       LogLevel2("Command to read SP timezone failed.");
     }

@@ -6,7 +6,6 @@
 #include "plugin/spaccess/ByteView.h"
 
 #include <array>
-#include <cstddef>
 #include <cstdint>
 
 namespace strake {
@@ -23,9 +22,6 @@ struct SpTime {
   unsigned char minute;
   unsigned char second;
 };
-
-// As many bytes hold a time, and no fewer a time zone.
-inline constexpr std::size_t kSpTimeBytes = 7;
 
 // Bytes: year - 2000, month, day, one not used, hour, minute, second.
 inline SpTime DecodeSpTime(ByteView reply) {
