@@ -1,20 +1,21 @@
 #include "app/Collect.h"
 
 #include "app/Errors.h"
-#include "app/JsonReport.h"
 #include "app/LogWriter.h"
 #include "app/ModulePath.h"
-#include "app/OutputFile.h"
-#include "app/OutputStream.h"
 #include "app/QueryPlan.h"
-#include "app/Report.h"
 #include "app/Server.h"
 #include "app/SharedFiles.h"
-#include "app/TableReport.h"
-#include "app/Terminal.h"
+#include "os/CommandFolder.h"
+#include "os/OutputFile.h"
+#include "os/OutputStream.h"
+#include "os/Terminal.h"
 #include "platform/boundary/TraceWriter.h"
 #include "platform/session/HostSession.h"
 #include "platform/session/PluginModule.h"
+#include "report/JsonReport.h"
+#include "report/Report.h"
+#include "report/TableReport.h"
 
 #include <exception>
 #include <memory>
@@ -34,20 +35,20 @@ std::vector<ClassNames> QueriesOf(const CollectOptions& options) {
   return queries;
 }
 
-std::unique_ptr<OutputFile> Open(const std::optional<std::filesystem::path>& name,
-                                 Privacy privacy) {
-  return name ? std::make_unique<OutputFile>(*name, privacy) : nullptr;
+std::unique_ptr<os::OutputFile> Open(const std::optional<std::filesystem::path>& name,
+                                     os::Privacy privacy) {
+  return name ? std::make_unique<os::OutputFile>(*name, privacy) : nullptr;
 }
 
 // What the run leaves beside its report: the trace and the log.
 class Trail {
  public:
   explicit Trail(const CollectOptions& options)
-      : fTraceFile(Open(options.trace, Privacy::Owner)),
-        fLogFile(Open(options.log, Privacy::Owner)),
+      : fTraceFile(Open(options.trace, os::Privacy::Owner)),
+        fLogFile(Open(options.log, os::Privacy::Owner)),
         fLog(fLogFile.get(), options.logLevel) {
     if (fTraceFile) {
-      fTraceBuffer = std::make_unique<OutputStreamBuffer>(*fTraceFile);
+      fTraceBuffer = std::make_unique<os::OutputStreamBuffer>(*fTraceFile);
       fTraceStream = std::make_unique<std::ostream>(fTraceBuffer.get());
       fTrace = std::make_unique<platform::TraceWriter>(*fTraceStream);
     }
@@ -69,10 +70,10 @@ class Trail {
   }
 
  private:
-  std::unique_ptr<OutputFile> fTraceFile;
-  std::unique_ptr<OutputFile> fLogFile;
+  std::unique_ptr<os::OutputFile> fTraceFile;
+  std::unique_ptr<os::OutputFile> fLogFile;
   LogWriter fLog;
-  std::unique_ptr<OutputStreamBuffer> fTraceBuffer;
+  std::unique_ptr<os::OutputStreamBuffer> fTraceBuffer;
   std::unique_ptr<std::ostream> fTraceStream;
   std::unique_ptr<platform::TraceWriter> fTrace;
 };
@@ -102,20 +103,23 @@ void RunQueries(platform::HostSession& session, const std::vector<ClassNames>& q
   RunStep("detaching", [&session] { session.Detach(); });
 }
 
-void WriteReport(const Report& report, const CollectOptions& options, OutputFile* file) {
+void WriteReport(const report::Report& report, const CollectOptions& options,
+                 os::OutputFile* file) {
   const bool isJson = options.format == ReportFormat::Json;
-  const Colour colour =
-      file == nullptr && StandardOutputShowsColour() ? Colour::Headings : Colour::Never;
-  const std::string text = isJson ? JsonReport(report) : TableReport(report, colour);
+  const report::Colour colour = file == nullptr && os::StandardOutputShowsColour()
+                                    ? report::Colour::Headings
+                                    : report::Colour::Never;
+  const std::string text =
+      isJson ? report::JsonReport(report) : report::TableReport(report, colour);
   if (file == nullptr) {
-    WriteStandardOutput(text);
+    os::WriteStandardOutput(text);
   } else {
     file->Write(text);
     file->Complete();
   }
   if (isJson) {
-    for (const platform::EqualKeys& equal : report.equalKeys) {
-      WriteStandardError("strake: warning: " + EqualKeysWarning(equal) + "\n");
+    for (const cim::EqualKeys& equal : report.equalKeys) {
+      os::WriteStandardError("strake: warning: " + report::EqualKeysWarning(equal) + "\n");
     }
   }
 }
@@ -128,12 +132,12 @@ void Collect(const CollectOptions& options) {
       options.server ? ReadServer(*options.server) : LoadBuiltInServer(options.demo);
   const std::vector<ClassNames> queries = QueriesOf(options);
   const platform::PluginModule module(options.plugin ? *options.plugin
-                                                     : FindModule(CommandFolder()));
+                                                     : FindModule(os::CommandFolder()));
 
   // All files are opened before the first query: a run whose results could not
   // be kept does not begin.
-  const std::unique_ptr<OutputFile> output =
-      Open(options.output, options.showSecrets ? Privacy::Owner : Privacy::Usual);
+  const std::unique_ptr<os::OutputFile> output =
+      Open(options.output, options.showSecrets ? os::Privacy::Owner : os::Privacy::Usual);
   Trail trail(options);
 
   platform::HostSession session(server.description, trail.Observer(), trail.Sink());
@@ -146,10 +150,10 @@ void Collect(const CollectOptions& options) {
   }
   trail.Complete();
 
-  Report report;
+  report::Report report;
   report.server = server.facts;
   report.instances = session.Instances().Committed();
-  report.equalKeys = session.Instances().FindEqualKeys();
+  report.equalKeys = cim::FindEqualKeys(report.instances);
   report.queries = queries.size();
   report.showSecrets = options.showSecrets;
   WriteReport(report, options, output.get());

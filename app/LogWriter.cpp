@@ -1,6 +1,6 @@
 #include "app/LogWriter.h"
 
-#include "app/TextEscape.h"
+#include "text/TextEscape.h"
 
 namespace strake::app {
 
@@ -9,11 +9,14 @@ void LogWriter::Write(int level, const std::string& message) {
     return;
   }
   std::string line = "[";
-  line.append(std::to_string(level)).append("] ").append(EscapeForPeople(message)).append("\n");
+  line.append(std::to_string(level))
+      .append("] ")
+      .append(text::EscapeForPeople(message))
+      .append("\n");
   if (fFile != nullptr) {
     fFile->Write(line);
   } else {
-    WriteStandardError(line);
+    os::WriteStandardError(line);
   }
 }
 

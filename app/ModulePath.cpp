@@ -35,8 +35,4 @@ std::filesystem::path FindModule(const std::filesystem::path& commandFolder) {
                  "; name one with --plugin");
 }
 
-std::filesystem::path CommandFolder() {
-  return std::filesystem::read_symlink("/proc/self/exe").parent_path();
-}
-
 }  // namespace strake::app

@@ -9,7 +9,4 @@ namespace strake::app {
 // it. Throws RunError when there is none.
 std::filesystem::path FindModule(const std::filesystem::path& commandFolder);
 
-// The folder of the running command.
-std::filesystem::path CommandFolder();
-
 }  // namespace strake::app

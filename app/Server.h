@@ -1,18 +1,22 @@
 // The server that the command works with: a file's or a built-in one.
 #pragma once
 
-#include "app/Report.h"
 #include "platform/server/ServerDescription.h"
+#include "report/Report.h"
 
 #include <filesystem>
 #include <string>
+#include <string_view>
 
 namespace strake::app {
 
 struct Server {
-  ServerFacts facts;
+  report::ServerFacts facts;
   platform::ServerDescription description;
 };
+
+// As the server description names it: "orlo".
+std::string_view KindName(platform::SpKind kind);
 
 // Both throw platform::DescriptionError.
 Server ReadServer(const std::filesystem::path& file);

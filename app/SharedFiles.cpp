@@ -1,7 +1,7 @@
 #include "app/SharedFiles.h"
 
 #include "app/Errors.h"
-#include "app/OutputTarget.h"
+#include "os/OutputTarget.h"
 
 #include <initializer_list>
 #include <string>
@@ -27,7 +27,7 @@ std::vector<NamedFile> Given(
 }
 
 void RefuseSame(const NamedFile& one, const NamedFile& other) {
-  if (AreSameFile(one.file, other.file)) {
+  if (os::AreSameFile(one.file, other.file)) {
     throw UsageError(one.option + " and " + other.option + ": both are the file " +
                      other.file.string());
   }

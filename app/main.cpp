@@ -3,10 +3,10 @@
 #include "app/Collect.h"
 #include "app/CommandLine.h"
 #include "app/Errors.h"
-#include "app/OutputFile.h"
-#include "app/Terminal.h"
-#include "app/TextEscape.h"
+#include "os/OutputFile.h"
+#include "os/Terminal.h"
 #include "platform/server/ServerDescription.h"
+#include "text/TextEscape.h"
 
 #include <csignal>
 #include <exception>
@@ -19,19 +19,19 @@ namespace {
 struct Runner {
   void operator()(const CollectOptions& options) const { Collect(options); }
   void operator()(const CheckOptions& options) const {
-    WriteStandardOutput(CheckDescription(options));
+    os::WriteStandardOutput(CheckDescription(options));
   }
-  void operator()(const TextAnswer& answer) const { WriteStandardOutput(answer.text); }
+  void operator()(const TextAnswer& answer) const { os::WriteStandardOutput(answer.text); }
 };
 
 int Fail(const char* text, int status) {
-  WriteStandardError("strake: " + EscapeForPeople(text) + "\n");
+  os::WriteStandardError("strake: " + text::EscapeForPeople(text) + "\n");
   return status;
 }
 
 int Main(int argc, char** argv) {
   try {
-    OccupyStandardDescriptors();
+    os::OccupyStandardDescriptors();
     // A reader that went away is a write error like any other.
     (void)std::signal(SIGPIPE, SIG_IGN);
     std::visit(Runner(), ParseCommandLine(argc, argv));

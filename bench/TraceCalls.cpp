@@ -1,7 +1,7 @@
 #include "bench/TraceCalls.h"
 
+#include "cim/DateTimeText.h"
 #include "platform/boundary/TraceWriter.h"
-#include "platform/server/DateTimeText.h"
 #include "platform/session/HostSession.h"
 #include "plugin/frame/ModuleEntry.h"
 
@@ -56,7 +56,7 @@ ValueSource SourceOf(const json& line) {
   if (type == "sint32") return value.get<int>();
   if (type == "uint16") return value.get<unsigned short>();
   if (type == "uint8") return value.get<unsigned char>();
-  return platform::ParseDateTime(value.get<std::string>());
+  return cim::ParseDateTime(value.get<std::string>());
 }
 
 Kind KindOf(const json& line) {

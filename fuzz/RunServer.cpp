@@ -1,5 +1,6 @@
 #include "fuzz/RunServer.h"
 
+#include "cim/EqualKeys.h"
 #include "fuzz/Check.h"
 #include "platform/boundary/TraceWriter.h"
 #include "platform/session/HostSession.h"
@@ -99,7 +100,7 @@ void RunServer(const ServerCase& serverCase) {
     platform::HostSession session(serverCase.server, &watcher);
     session.Attach(&StrakeModuleEntry);
     for (const Query& query : serverCase.queries) RunQuery(session, watcher, query);
-    static_cast<void>(session.Instances().FindEqualKeys());
+    static_cast<void>(cim::FindEqualKeys(session.Instances().Committed()));
     session.Detach();
   }
   const long left = platform::LiveDotCommands() - dotCommands - watcher.PresenceTests();

@@ -1,8 +1,8 @@
 #include "platform/boundary/TraceWriter.h"
 
-#include "platform/boundary/DotNotation.h"
+#include "cim/TCIMValueContent.h"
 #include "platform/boundary/TraceLine.h"
-#include "platform/hostcore/TCIMValueContent.h"
+#include "text/DotNotation.h"
 
 #include <stdexcept>
 
@@ -118,7 +118,7 @@ void TraceWriter::OnDiscoverSPs(int result) {
 
 void TraceWriter::OnComponentCount(std::span<const unsigned char> identifier, int result) {
   SpLine("getComponentdotCmdList")
-      .Text("id", DotNotation(identifier))
+      .Text("id", text::DotNotation(identifier))
       .Number("result", result)
       .WriteTo(*fOut);
 }
@@ -126,7 +126,7 @@ void TraceWriter::OnComponentCount(std::span<const unsigned char> identifier, in
 void TraceWriter::OnDotSend(const DotSend& send) {
   SpLine("sendDotCommand")
       .Number("class", send.commandClass)
-      .Text("id", DotNotation(send.identifier))
+      .Text("id", text::DotNotation(send.identifier))
       .Number("sp", send.sp)
       .Number("size", send.size)
       .Flag("result", send.result)

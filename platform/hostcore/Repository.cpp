@@ -1,10 +1,10 @@
 #include "platform/hostcore/Repository.h"
 
+#include "cim/Catalogue.h"
 #include "platform/boundary/BeginCall.h"
 #include "platform/hostcore/HostControl.h"
 #include "platform/hostcore/RepositoryClass.h"
 #include "platform/hostcore/RepositoryState.h"
-#include "platform/hostcore/Schema.h"
 
 #include <boost/make_shared.hpp>
 
@@ -19,7 +19,8 @@ void Repository::GetClass(boost::shared_ptr<ICIMClass>& cimClass, const std::str
                           NVELKZEV20::ContextMap /*context*/) {
   BoundaryObserver* const observer = HostObserver();
   const Fault fault = BeginCall(observer, BoundaryCall::GetClass);
-  const SchemaClass* const found = fault == Fault::EmptyHandle ? nullptr : FindSchemaClass(name);
+  const cim::SchemaClass* const found =
+      fault == Fault::EmptyHandle ? nullptr : cim::FindSchemaClass(name);
   cimClass.reset();
   if (found != nullptr) {
     cimClass = boost::make_shared<RepositoryClass>(fState, name, found);
@@ -30,10 +31,10 @@ void Repository::GetClass(boost::shared_ptr<ICIMClass>& cimClass, const std::str
 }
 
 boost::shared_ptr<ICIMClass> Repository::RequestedClass(const std::string& name) {
-  return boost::make_shared<RepositoryClass>(fState, name, FindSchemaClass(name));
+  return boost::make_shared<RepositoryClass>(fState, name, cim::FindSchemaClass(name));
 }
 
-const std::vector<StoredInstance>& Repository::Committed() const { return fState->committed; }
+const std::vector<cim::StoredInstance>& Repository::Committed() const { return fState->committed; }
 
 long Repository::HandlesHeld() const { return fState.use_count() - 1; }
 

@@ -3,29 +3,15 @@
 // else with an exception that says class, property and type.
 #pragma once
 
+#include "cim/StoredInstance.h"
 #include "plugin/host/ICIM.h"
 
 #include <boost/shared_ptr.hpp>
 #include <memory>
 #include <string>
-#include <utility>
 #include <vector>
 
 namespace strake::platform {
-
-struct StoredInstance {
-  std::string className;
-  unsigned long number = 0;
-  // In the order in which they were set.
-  std::vector<std::pair<std::string, NVELKZEV20::TCIMValue>> properties;
-};
-
-// Instances of one class whose key properties are equal.
-struct EqualKeys {
-  std::string className;
-  std::string keys;  // NAME=VALUE, ..., for people
-  std::size_t count = 0;
-};
 
 struct RepositoryState;
 
@@ -43,8 +29,7 @@ class Repository : public NVELKZEV20::ICIMNamespace {
   boost::shared_ptr<NVELKZEV20::ICIMClass> RequestedClass(const std::string& name);
 
   // In commit order.
-  [[nodiscard]] const std::vector<StoredInstance>& Committed() const;
-  [[nodiscard]] std::vector<EqualKeys> FindEqualKeys() const;
+  [[nodiscard]] const std::vector<cim::StoredInstance>& Committed() const;
   // How many of its classes and instances are held by anybody.
   [[nodiscard]] long HandlesHeld() const;
 

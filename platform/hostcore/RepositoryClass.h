@@ -1,8 +1,8 @@
 // A class of the repository as the plug-in sees it.
 #pragma once
 
+#include "cim/Catalogue.h"
 #include "platform/hostcore/RepositoryState.h"
-#include "platform/hostcore/Schema.h"
 #include "plugin/host/ICIM.h"
 
 #include <boost/shared_ptr.hpp>
@@ -14,7 +14,7 @@ class RepositoryClass : public NVELKZEV20::ICIMClass {
  public:
   // The schema class is null for a name that the schema does not have.
   RepositoryClass(const boost::shared_ptr<RepositoryState>& state, const std::string& name,
-                  const SchemaClass* schemaClass)
+                  const cim::SchemaClass* schemaClass)
       : fState(state), fName(name), fSchemaClass(schemaClass) {}
 
   [[nodiscard]] std::string GetName() const override;
@@ -24,7 +24,7 @@ class RepositoryClass : public NVELKZEV20::ICIMClass {
  private:
   boost::shared_ptr<RepositoryState> fState;
   std::string fName;
-  const SchemaClass* fSchemaClass;
+  const cim::SchemaClass* fSchemaClass;
 };
 
 }  // namespace strake::platform

@@ -1,8 +1,8 @@
 #include "platform/hostcore/RepositoryInstance.h"
 
+#include "cim/TCIMValueContent.h"
 #include "platform/boundary/BeginCall.h"
 #include "platform/hostcore/HostControl.h"
-#include "platform/hostcore/TCIMValueContent.h"
 
 #include <algorithm>
 #include <stdexcept>
@@ -16,17 +16,19 @@ using NVELKZEV20::TCIMValue;
 using NVELKZEV20::TCIMValueContent;
 
 // An empty value has no type, so nobody can be told of it: it is refused first.
-CimType TypeOf(const std::string& name, const TCIMValue& value) {
+cim::CimType TypeOf(const std::string& name, const TCIMValue& value) {
   struct Types {
     const std::string& name;
-    CimType operator()(const std::monostate& /*empty*/) const {
+    cim::CimType operator()(const std::monostate& /*empty*/) const {
       throw std::invalid_argument("property " + name + " was given an empty value");
     }
-    CimType operator()(const std::string& /*text*/) const { return CimType::String; }
-    CimType operator()(std::int32_t /*number*/) const { return CimType::Sint32; }
-    CimType operator()(std::uint16_t /*number*/) const { return CimType::Uint16; }
-    CimType operator()(std::uint8_t /*number*/) const { return CimType::Uint8; }
-    CimType operator()(const TCIMDateTime& /*dateTime*/) const { return CimType::DateTime; }
+    cim::CimType operator()(const std::string& /*text*/) const { return cim::CimType::String; }
+    cim::CimType operator()(std::int32_t /*number*/) const { return cim::CimType::Sint32; }
+    cim::CimType operator()(std::uint16_t /*number*/) const { return cim::CimType::Uint16; }
+    cim::CimType operator()(std::uint8_t /*number*/) const { return cim::CimType::Uint8; }
+    cim::CimType operator()(const TCIMDateTime& /*dateTime*/) const {
+      return cim::CimType::DateTime;
+    }
   };
   return std::visit(Types{name}, TCIMValueContent::Of(value));
 }
@@ -34,7 +36,7 @@ CimType TypeOf(const std::string& name, const TCIMValue& value) {
 }  // namespace
 
 RepositoryInstance::RepositoryInstance(const boost::shared_ptr<RepositoryState>& state,
-                                       const SchemaClass& schemaClass, unsigned long number)
+                                       const cim::SchemaClass& schemaClass, unsigned long number)
     : fState(state),
       fSchemaClass(schemaClass),
       fNumber(number),
@@ -56,7 +58,7 @@ void RepositoryInstance::Commit(NVELKZEV20::TNameToValueMap /*options*/) {
 
 void RepositoryInstance::SetProperty(const std::string& name, const TCIMValue& value,
                                      NVELKZEV20::TNameToValueMap /*qualifiers*/) {
-  const CimType type = TypeOf(name, value);
+  const cim::CimType type = TypeOf(name, value);
   // What is refused was said all the same, so the observer comes first.
   if (BoundaryObserver* const observer = HostObserver(); observer != nullptr) {
     BeginCall(observer, BoundaryCall::SetProperty);
@@ -73,16 +75,16 @@ void RepositoryInstance::RefuseCommitted(const std::string& what) const {
                          std::string(fSchemaClass.name) + " is committed and " + what);
 }
 
-std::size_t RepositoryInstance::CheckProperty(const std::string& name, CimType type) const {
-  const SchemaProperty* const property = FindSchemaProperty(fSchemaClass, name);
+std::size_t RepositoryInstance::CheckProperty(const std::string& name, cim::CimType type) const {
+  const cim::SchemaProperty* const property = cim::FindSchemaProperty(fSchemaClass, name);
   if (property == nullptr) {
     throw std::invalid_argument("class " + std::string(fSchemaClass.name) + " has no property " +
-                                name + " of type " + std::string(CimTypeName(type)));
+                                name + " of type " + std::string(cim::CimTypeName(type)));
   }
   if (property->type != type) {
     throw std::invalid_argument("property " + name + " of class " + std::string(fSchemaClass.name) +
-                                " has type " + std::string(CimTypeName(property->type)) + ", not " +
-                                std::string(CimTypeName(type)));
+                                " has type " + std::string(cim::CimTypeName(property->type)) +
+                                ", not " + std::string(cim::CimTypeName(type)));
   }
   return static_cast<std::size_t>(property - fSchemaClass.properties.data());
 }

@@ -1,8 +1,8 @@
 // An instance under construction; its commit puts it into the repository.
 #pragma once
 
+#include "cim/Catalogue.h"
 #include "platform/hostcore/RepositoryState.h"
-#include "platform/hostcore/Schema.h"
 #include "plugin/host/ICIM.h"
 
 #include <bitset>
@@ -17,7 +17,7 @@ inline constexpr std::size_t kMostProperties = 64;
 class RepositoryInstance : public NVELKZEV20::ICIMInstance {
  public:
   RepositoryInstance(const boost::shared_ptr<RepositoryState>& state,
-                     const SchemaClass& schemaClass, unsigned long number);
+                     const cim::SchemaClass& schemaClass, unsigned long number);
 
   void Commit(NVELKZEV20::TNameToValueMap options) override;
   void SetProperty(const std::string& name, const NVELKZEV20::TCIMValue& value,
@@ -25,13 +25,13 @@ class RepositoryInstance : public NVELKZEV20::ICIMInstance {
 
  private:
   [[noreturn]] void RefuseCommitted(const std::string& what) const;
-  [[nodiscard]] std::size_t CheckProperty(const std::string& name, CimType type) const;
+  [[nodiscard]] std::size_t CheckProperty(const std::string& name, cim::CimType type) const;
   void Store(std::size_t schemaIndex, const std::string& name, const NVELKZEV20::TCIMValue& value);
 
   boost::shared_ptr<RepositoryState> fState;
-  const SchemaClass& fSchemaClass;
+  const cim::SchemaClass& fSchemaClass;
   const unsigned long fNumber;
-  StoredInstance fStored;
+  cim::StoredInstance fStored;
   std::bitset<kMostProperties> fIsSet;  // by place in the schema
   bool fCommitted = false;
 };

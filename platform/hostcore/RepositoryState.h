@@ -9,7 +9,7 @@
 namespace strake::platform {
 
 struct RepositoryState {
-  std::vector<StoredInstance> committed;
+  std::vector<cim::StoredInstance> committed;
   unsigned long created = 0;  // instances, committed or not
 };
 

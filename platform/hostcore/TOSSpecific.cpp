@@ -1,14 +1,9 @@
 #include "plugin/host/TOSSpecific.h"
 
+#include "os/LocalTime.h"
 #include "platform/boundary/BeginCall.h"
 #include "platform/hostcore/HostAnswer.h"
 #include "platform/hostcore/HostState.h"
-
-#include <algorithm>
-#include <cerrno>
-#include <chrono>
-#include <ctime>
-#include <system_error>
 
 namespace NVELKZEV20 {
 
@@ -17,23 +12,12 @@ using strake::platform::BoundaryCall;
 namespace {
 
 TCIMDateTime RealLocalTime() {
-  using std::chrono::floor;
-  const auto now = std::chrono::system_clock::now();
-  const auto wholeSeconds = floor<std::chrono::seconds>(now);
-  const auto microseconds = floor<std::chrono::microseconds>(now - wholeSeconds).count();
-  const std::time_t stamp = std::chrono::system_clock::to_time_t(wholeSeconds);
-  std::tm local{};
-  if (localtime_r(&stamp, &local) == nullptr) {
-    throw std::system_error(errno, std::generic_category(), "local time");
-  }
+  const strake::os::LocalTime now = strake::os::Now();
   TCIMDateTime result;
-  result.Set(static_cast<unsigned short>(local.tm_year + 1900),
-             static_cast<unsigned short>(local.tm_mon + 1),
-             static_cast<unsigned int>(local.tm_mday), static_cast<unsigned short>(local.tm_hour),
-             static_cast<unsigned short>(local.tm_min),
-             // A leap second is shown as the second before it.
-             static_cast<unsigned short>(std::min(local.tm_sec, 59)),
-             static_cast<unsigned int>(microseconds), static_cast<short>(local.tm_gmtoff / 60));
+  result.Set(static_cast<unsigned short>(now.year), static_cast<unsigned short>(now.month),
+             static_cast<unsigned int>(now.day), static_cast<unsigned short>(now.hour),
+             static_cast<unsigned short>(now.minute), static_cast<unsigned short>(now.second),
+             static_cast<unsigned int>(now.microseconds), static_cast<short>(now.utcOffset));
   return result;
 }
 

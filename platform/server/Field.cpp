@@ -1,8 +1,8 @@
 #include "platform/server/Field.h"
 
 #include "platform/server/JsonPointer.h"
-#include "platform/server/Quote.h"
 #include "platform/server/ServerDescription.h"
+#include "text/Quote.h"
 
 #include <algorithm>
 #include <nlohmann/json.hpp>
@@ -19,7 +19,7 @@ std::string Describe(const json& value) {
     case json::value_t::array:
       return "an array";
     case json::value_t::string:
-      return Quoted(value.get_ref<const std::string&>());
+      return text::Quoted(value.get_ref<const std::string&>());
     default:
       return value.dump();
   }
@@ -104,7 +104,7 @@ void Field::AllowKeys(std::initializer_list<std::string_view> keys) const {
     if (std::ranges::find(keys, key) != keys.end()) {
       continue;
     }
-    RefuseGot("no key but " + Join(keys), Quoted(key));
+    RefuseGot("no key but " + Join(keys), text::Quoted(key));
   }
 }
 
@@ -119,7 +119,7 @@ std::optional<Field> Field::Find(const char* key) const {
 Field Field::Require(const char* key) const {
   std::optional<Field> found = Find(key);
   if (!found) {
-    RefuseGot("the key " + Quoted(key), "none");
+    RefuseGot("the key " + text::Quoted(key), "none");
   }
   return *found;
 }

@@ -1,6 +1,6 @@
 #include "platform/server/JsonPointer.h"
 
-#include "platform/server/Quote.h"
+#include "text/Quote.h"
 
 namespace strake::platform {
 
@@ -18,7 +18,7 @@ void AppendToPointer(std::string& pointer, std::string_view token) {
 }
 
 std::string PrintablePointer(std::string_view pointer) {
-  return pointer.empty() ? "the top level" : Printable(pointer);
+  return pointer.empty() ? "the top level" : text::Printable(pointer);
 }
 
 }  // namespace strake::platform

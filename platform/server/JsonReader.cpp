@@ -1,8 +1,8 @@
 #include "platform/server/JsonReader.h"
 
 #include "platform/server/JsonPointer.h"
-#include "platform/server/Quote.h"
 #include "platform/server/ServerDescription.h"
+#include "text/Quote.h"
 
 #include <algorithm>
 #include <nlohmann/json.hpp>
@@ -90,7 +90,7 @@ bool Builder::Close() {
 bool Builder::key(string_t& value) {
   if (fOpen.back().value->contains(value)) {
     throw DescriptionError(fSource + ": at " + PrintablePointer(Pointer()) +
-                           ": expected each key once, got " + Quoted(value) + " twice");
+                           ": expected each key once, got " + text::Quoted(value) + " twice");
   }
   fOpen.back().key = std::move(value);
   return true;
@@ -116,7 +116,7 @@ std::string Reason(std::string_view what) {
   if (what.starts_with(kPlace)) {
     what.remove_prefix(what.find(": ", kPlace.size()) + 2);
   }
-  return Printable(what);
+  return text::Printable(what);
 }
 
 // Line and column of a byte, as people count.

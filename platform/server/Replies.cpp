@@ -1,7 +1,7 @@
 #include "platform/server/Replies.h"
 
 #include "platform/server/ElementRecord.h"
-#include "platform/server/HexBytes.h"
+#include "text/HexBytes.h"
 
 #include <cstdint>
 
@@ -11,7 +11,7 @@ namespace {
 std::string ReadBytes(const Field& field) {
   std::optional<std::string> bytes;
   if (field.IsText()) {
-    bytes = ParseHexBytes(field.Text());
+    bytes = text::ParseHexBytes(field.Text());
   }
   if (!bytes) {
     field.Refuse("hexadecimal byte pairs");

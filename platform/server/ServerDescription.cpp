@@ -1,11 +1,11 @@
 #include "platform/server/ServerDescription.h"
 
-#include "platform/boundary/DotNotation.h"
-#include "platform/server/DateTimeText.h"
+#include "cim/DateTimeText.h"
 #include "platform/server/Field.h"
 #include "platform/server/JsonReader.h"
-#include "platform/server/Quote.h"
 #include "platform/server/Replies.h"
+#include "text/DotNotation.h"
+#include "text/Quote.h"
 
 #include <array>
 #include <cstdint>
@@ -20,7 +20,7 @@ constexpr const char* kFormat = "strake-server/1";
 void CheckFormat(const Field& root) {
   const Field format = root.Require("format");
   if (format.Text() != kFormat) {
-    format.Refuse(Quoted(kFormat));
+    format.Refuse(text::Quoted(kFormat));
   }
 }
 
@@ -37,7 +37,7 @@ HostAnswer ReadHostAnswer(const Field& field) {
 
 NVELKZEV20::TCIMDateTime ReadDateTime(const Field& field) {
   try {
-    return ParseDateTime(field.Text());
+    return cim::ParseDateTime(field.Text());
   } catch (const std::out_of_range& error) {
     field.Refuse("a date-time yyyymmddhhmmss.mmmmmmsutc", error.what());
   }
@@ -80,14 +80,15 @@ SpKind ReadKind(const Field& field) {
 std::map<Identifier, int> ReadComponents(const Field& field) {
   std::map<Identifier, int> components;
   field.ForEachMember([&](const std::string& key, const Field& count) {
-    std::optional<Identifier> identifier = ParseDotNotation(key);
+    std::optional<Identifier> identifier = text::ParseDotNotation(key);
     if (!identifier || identifier->size() != 5) {
-      field.RefuseGot("component identifiers of five bytes in dot notation", Quoted(key));
+      field.RefuseGot("component identifiers of five bytes in dot notation", text::Quoted(key));
     }
     // The instance number plays no part in the match.
     identifier->at(3) = '\0';
     if (!components.try_emplace(*identifier, count.Integer(0, 254)).second) {
-      field.RefuseGot("each component once, whatever its fourth byte", Quoted(key) + " again");
+      field.RefuseGot("each component once, whatever its fourth byte",
+                      text::Quoted(key) + " again");
     }
   });
   if (components.size() > kMostComponents) {
@@ -100,9 +101,9 @@ std::map<Identifier, int> ReadComponents(const Field& field) {
 std::map<Identifier, ReplySequence> ReadDotCommands(const Field& field) {
   std::map<Identifier, ReplySequence> commands;
   field.ForEachMember([&](const std::string& key, const Field& replies) {
-    const std::optional<Identifier> identifier = ParseDotNotation(key);
+    const std::optional<Identifier> identifier = text::ParseDotNotation(key);
     if (!identifier) {
-      field.RefuseGot("commands in dot notation, such as 4.4.1", Quoted(key));
+      field.RefuseGot("commands in dot notation, such as 4.4.1", text::Quoted(key));
     }
     commands.emplace(*identifier, ReadReplies(replies));
   });
@@ -123,9 +124,9 @@ std::vector<std::map<Identifier, ReplySequence>> ReadInstances(const Field& fiel
 std::map<unsigned char, ReplySequence> ReadKestleCommands(const Field& field) {
   std::map<unsigned char, ReplySequence> commands;
   field.ForEachMember([&](const std::string& key, const Field& replies) {
-    const std::optional<unsigned char> code = ParseDecimalByte(key);
+    const std::optional<unsigned char> code = text::ParseDecimalByte(key);
     if (!code) {
-      field.RefuseGot("command codes 0 to 255 in decimal", Quoted(key));
+      field.RefuseGot("command codes 0 to 255 in decimal", text::Quoted(key));
     }
     commands.emplace(*code, ReadReplies(replies));
   });
@@ -169,7 +170,7 @@ SpDescription ReadSp(const Field& field) {
 }  // namespace
 
 ServerDescription ParseServerDescription(std::string_view text, const std::string& source) {
-  const std::string name = PrintableName(source);
+  const std::string name = text::PrintableName(source);
   if (text.size() > kMostDescriptionBytes) {
     throw DescriptionError(name + ": expected at most " + std::to_string(kMostDescriptionBytes) +
                            " bytes, got more");

@@ -1,6 +1,7 @@
-// A plug-in module loaded with the system's loader.
+// A plug-in module and its entry.
 #pragma once
 
+#include "os/LoadableModule.h"
 #include "platform/session/HostSession.h"
 
 #include <filesystem>
@@ -9,17 +10,14 @@ namespace strake::platform {
 
 class PluginModule {
  public:
-  // Throws SessionError: the file is missing, is no module, or lacks the entry.
+  // Throws os::ModuleError: the file is missing, is no module, or lacks the entry.
   explicit PluginModule(const std::filesystem::path& file);
-  PluginModule(const PluginModule&) = delete;
-  PluginModule& operator=(const PluginModule&) = delete;
-  ~PluginModule();  // unloads
 
   [[nodiscard]] ModuleEntry Entry() const { return fEntry; }
 
  private:
-  void* fLibrary = nullptr;
-  ModuleEntry fEntry = nullptr;
+  os::LoadableModule fModule;
+  ModuleEntry fEntry;
 };
 
 }  // namespace strake::platform

@@ -1,6 +1,6 @@
 // What the command does to files, and how it refuses and fails.
 #include "tests/app/Command.h"
-#include "tests/app/TemporaryFolder.h"
+#include "tests/support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 #include <unistd.h>

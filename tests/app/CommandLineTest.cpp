@@ -3,7 +3,7 @@
 #include "app/CommandLine.h"
 #include "app/Errors.h"
 #include "app/ModulePath.h"
-#include "tests/app/TemporaryFolder.h"
+#include "tests/support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 #include <variant>

@@ -1,6 +1,6 @@
 // The command from outside: what it prints and how it ends.
 #include "tests/app/Command.h"
-#include "tests/app/TemporaryFolder.h"
+#include "tests/support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 #include <sstream>

@@ -1,6 +1,6 @@
 // Which queries bring the wanted classes.
 #include "app/QueryPlan.h"
-#include "platform/hostcore/Schema.h"
+#include "cim/Catalogue.h"
 
 #include <gtest/gtest.h>
 
@@ -38,10 +38,10 @@ TEST(QueryPlan, CountsAClassThatIsNamedTwiceOnce) {
 }
 
 TEST(QueryPlan, KnowsTheClassesOfTheSchemaAndNoOthers) {
-  for (const platform::SchemaClass& known : platform::SchemaClasses()) {
+  for (const cim::SchemaClass& known : cim::SchemaClasses()) {
     EXPECT_TRUE(app::IsKnownClass(known.name)) << known.name;
   }
-  EXPECT_EQ(platform::SchemaClasses().size(), 8U);
+  EXPECT_EQ(cim::SchemaClasses().size(), 8U);
   for (const char* const unknown : {"", "velksg_sp_computersystem", "VELKSG_SP_ComputerSystem ",
                                     "VELKSG_ServProc_DialProtocolEndpoint"}) {
     EXPECT_FALSE(app::IsKnownClass(unknown)) << unknown;

@@ -1,6 +1,6 @@
 #include "tests/faults/Collection.h"
 
-#include "platform/hostcore/TCIMValueContent.h"
+#include "cim/TCIMValueContent.h"
 #include "platform/session/HostSession.h"
 #include "platform/spdriver/DriverControl.h"
 #include "plugin/config/SharedIdentifiers.h"
@@ -15,12 +15,12 @@
 namespace strake::tests {
 namespace {
 
+using cim::StoredInstance;
 using NVELKZEV20::ICIMClass;
 using NVELKZEV20::IPluginBasicQueryCallbacks;
 using NVELKZEV20::TCIMValueContent;
 using platform::BoundaryCall;
 using platform::Fault;
-using platform::StoredInstance;
 
 // Watches one run, and troubles one of its calls. Allocates nothing itself.
 class Troublemaker : public platform::BoundaryObserver {

@@ -41,8 +41,8 @@ class Collection {
   std::vector<std::string> fNextQuery;
   // As it goes without trouble.
   std::vector<platform::BoundaryCall> fCalls;
-  std::vector<platform::StoredInstance> fCommitted;
-  std::vector<platform::StoredInstance> fNextCommitted;
+  std::vector<cim::StoredInstance> fCommitted;
+  std::vector<cim::StoredInstance> fNextCommitted;
   long fAllocations = 0;
 };
 

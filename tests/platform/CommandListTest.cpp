@@ -1,6 +1,6 @@
-#include "platform/boundary/DotNotation.h"
 #include "plugin/spaccess/SPLibrary.h"
 #include "tests/platform/TestServer.h"
+#include "text/DotNotation.h"
 
 #include <memory>
 #include <random>
@@ -23,7 +23,7 @@ class List {
   }
   bool Build() { return Library().buildDotCommandList(At(0), At(1), At(2)); }
   int Count(const std::string& dotNotation) {
-    std::string asked = ParseDotNotation(dotNotation).value();
+    std::string asked = text::ParseDotNotation(dotNotation).value();
     return Library().getComponentdotCmdList(reinterpret_cast<unsigned char*>(asked.data()),
                                             static_cast<int>(asked.size()), At(0), At(1), At(2));
   }
@@ -33,7 +33,9 @@ class List {
   std::array<std::unique_ptr<unsigned char[]>, 3> fBuffers;
 };
 
-Identifier Id(const std::string& dotNotation) { return ParseDotNotation(dotNotation).value(); }
+Identifier Id(const std::string& dotNotation) {
+  return text::ParseDotNotation(dotNotation).value();
+}
 
 class CommandListTest : public PlatformTest {
  protected:

@@ -1,4 +1,4 @@
-#include "platform/server/DateTimeText.h"
+#include "cim/DateTimeText.h"
 #include "plugin/host/TCIMDateTime.h"
 #include "tests/platform/TestServer.h"
 
@@ -40,7 +40,7 @@ TEST(DateTime, WritesTheCimText) {
     TCIMDateTime dateTime;
     Set(dateTime, one.fields);
     EXPECT_EQ(dateTime.ToString(), one.text);
-    EXPECT_EQ(ParseDateTime(one.text).ToString(), one.text);
+    EXPECT_EQ(cim::ParseDateTime(one.text).ToString(), one.text);
   }
 }
 
@@ -107,7 +107,7 @@ TEST(DateTime, IsReadFromItsTextAlone) {
       {"20100229134530.000000-120", "day 29 is not in 1..28"},
   };
   for (const auto& one : cases) {
-    EXPECT_EQ(TextThrownBy([&] { ParseDateTime(one.text); }), one.message) << one.text;
+    EXPECT_EQ(TextThrownBy([&] { cim::ParseDateTime(one.text); }), one.message) << one.text;
   }
 }
 

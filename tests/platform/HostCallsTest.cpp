@@ -1,4 +1,4 @@
-#include "platform/hostcore/TCIMValueContent.h"
+#include "cim/TCIMValueContent.h"
 #include "plugin/host/Handle.h"
 #include "plugin/host/TCIMSchemaHelper.h"
 #include "plugin/host/TOSSpecific.h"

@@ -24,7 +24,7 @@ class PluginModuleTest : public testing::Test {
 std::string RefusalOf(const std::filesystem::path& file) {
   try {
     const PluginModule module(file);
-  } catch (const SessionError& error) {
+  } catch (const os::ModuleError& error) {
     return error.what();
   }
   return "loaded";

@@ -1,5 +1,6 @@
+#include "cim/EqualKeys.h"
+#include "cim/TCIMValueContent.h"
 #include "platform/hostcore/Repository.h"
-#include "platform/hostcore/TCIMValueContent.h"
 #include "tests/platform/TestServer.h"
 
 #include <boost/make_shared.hpp>
@@ -82,7 +83,7 @@ TEST_F(RepositoryTest, KeepsPropertiesInTheOrderInWhichTheyWereSet) {
   instance->SetProperty("DeviceID", "Fan", {});
   instance->SetProperty("UnitModifier", -3, {});
   instance->Commit({});
-  const StoredInstance& stored = fRepository.Committed().front();
+  const cim::StoredInstance& stored = fRepository.Committed().front();
   ASSERT_EQ(stored.properties.size(), 3U);
   EXPECT_EQ(stored.properties[0].first, "UnitModifier");
   // Set twice: the value is the last one, the place the first one.
@@ -193,7 +194,7 @@ TEST_F(RepositoryTest, KeepsInstancesWithEqualKeysAndReportsThem) {
   Instance(kSensor)->Commit({});
   Instance(kSensor)->Commit({});
   EXPECT_EQ(fRepository.Committed().size(), 7U);
-  const std::vector<EqualKeys> groups = fRepository.FindEqualKeys();
+  const std::vector<cim::EqualKeys> groups = cim::FindEqualKeys(fRepository.Committed());
   ASSERT_EQ(groups.size(), 2U);
   EXPECT_EQ(groups[0].className, kSystem);
   EXPECT_EQ(groups[0].keys, "SourceNode=1, Name=B");
@@ -208,7 +209,7 @@ TEST_F(RepositoryTest, DoesNotTakeAMissingKeyForAnEmptyOne) {
   const InstanceHandle instance = Instance(kSystem);
   instance->SetProperty("Name", "", {});
   instance->Commit({});
-  EXPECT_TRUE(fRepository.FindEqualKeys().empty());
+  EXPECT_TRUE(cim::FindEqualKeys(fRepository.Committed()).empty());
 }
 
 TEST_F(RepositoryTest, ShowsInjectedFaultsWithoutDoingTheWork) {

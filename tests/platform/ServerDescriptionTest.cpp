@@ -1,5 +1,5 @@
-#include "platform/boundary/DotNotation.h"
 #include "platform/server/ServerDescription.h"
+#include "text/DotNotation.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -28,7 +28,9 @@ std::string WithRoot(const std::string& members) {
   return R"({"format":"strake-server/1",)" + members + R"(,"sp":{"kind":"orlo"}})";
 }
 
-Identifier Id(const std::string& dotNotation) { return ParseDotNotation(dotNotation).value(); }
+Identifier Id(const std::string& dotNotation) {
+  return text::ParseDotNotation(dotNotation).value();
+}
 
 TEST(ServerDescription, HasDefaultsForAllButFormatAndKind) {
   const ServerDescription server = Parse(R"({"format":"strake-server/1","sp":{"kind":"none"}})");

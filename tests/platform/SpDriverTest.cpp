@@ -1,6 +1,6 @@
-#include "platform/boundary/DotNotation.h"
 #include "plugin/spaccess/SPLibrary.h"
 #include "tests/platform/TestServer.h"
+#include "text/DotNotation.h"
 
 #include <algorithm>
 #include <limits>
@@ -30,7 +30,7 @@ struct Sent {
 
 // Sends with a buffer of exactly the size that it says.
 Sent SendDot(const std::string& dotNotation, int sp, int size) {
-  const std::string identifier = ParseDotNotation(dotNotation).value();
+  const std::string identifier = text::ParseDotNotation(dotNotation).value();
   const Bytes bytes(identifier.begin(), identifier.end());
   const unsigned char extra = 0;
   dotCmd command(2, static_cast<int>(bytes.size()), 0, bytes.data(), &extra);
@@ -52,7 +52,9 @@ ReplySequence Once(const std::string& bytes) {
   return {{bytes, static_cast<int>(bytes.size()), true}};
 }
 
-Identifier Id(const std::string& dotNotation) { return ParseDotNotation(dotNotation).value(); }
+Identifier Id(const std::string& dotNotation) {
+  return text::ParseDotNotation(dotNotation).value();
+}
 
 class SpDriverTest : public PlatformTest {
  protected:

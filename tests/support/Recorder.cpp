@@ -1,6 +1,6 @@
 #include "tests/support/Recorder.h"
 
-#include "platform/hostcore/TCIMValueContent.h"
+#include "cim/TCIMValueContent.h"
 
 #include <sstream>
 

@@ -1,0 +1,20 @@
+// One numeric sensor as people read it.
+#pragma once
+
+#include "cim/StoredInstance.h"
+
+#include <string>
+
+namespace strake::report {
+
+inline constexpr std::string_view kSensorClass = "VELKSG_SP_NumericSensor";
+
+struct SensorText {
+  std::string name;     // safe to show
+  std::string reading;  // scaled: "5.00"; "no reading" when there is none
+  std::string unit;     // "V"
+};
+
+SensorText TextOfSensor(const cim::StoredInstance& sensor);
+
+}  // namespace strake::report

@@ -1,0 +1,186 @@
+#include "report/TableReport.h"
+
+#include "cim/Catalogue.h"
+#include "report/InstanceText.h"
+#include "report/SensorText.h"
+#include "text/TextEscape.h"
+
+#include <algorithm>
+
+namespace strake::report {
+namespace {
+
+constexpr std::string_view kGap = "  ";
+constexpr std::string_view kTitleIndent = "  ";
+constexpr std::string_view kRowIndent = "    ";
+
+std::string Counted(std::size_t count, const std::string& one, const std::string& many) {
+  return std::to_string(count) + " " + (count == 1 ? one : many);
+}
+
+// Where an instance stands in the report.
+struct Place {
+  std::optional<int> node;  // no node stands before all others
+  std::size_t classRank = 0;
+  const cim::StoredInstance* instance = nullptr;
+};
+
+std::size_t ClassRank(std::string_view className) {
+  const auto classes = cim::SchemaClasses();
+  const auto found =
+      std::find_if(classes.begin(), classes.end(),
+                   [className](const cim::SchemaClass& known) { return known.name == className; });
+  return static_cast<std::size_t>(found - classes.begin());
+}
+
+std::vector<Place> Arrange(std::span<const cim::StoredInstance> instances) {
+  std::vector<Place> places;
+  places.reserve(instances.size());
+  for (const cim::StoredInstance& instance : instances) {
+    places.push_back({SourceNode(instance), ClassRank(instance.className), &instance});
+  }
+  std::stable_sort(places.begin(), places.end(), [](const Place& one, const Place& other) {
+    return one.node != other.node ? one.node < other.node : one.classRank < other.classRank;
+  });
+  return places;
+}
+
+class TableWriter {
+ public:
+  TableWriter(const Report& report, Colour colour) : fReport(&report), fColour(colour) {}
+
+  std::string Write() {
+    WriteServer();
+    const std::vector<Place> places = Arrange(fReport->instances);
+    const std::span<const Place> all(places);
+    for (std::size_t index = 0; index < all.size();) {
+      const std::size_t end = EndOfGroup(all, index);
+      WriteGroup(all.subspan(index, end - index));
+      index = end;
+    }
+    WriteSummary();
+    return std::move(fOut);
+  }
+
+ private:
+  static std::size_t EndOfGroup(std::span<const Place> places, std::size_t begin) {
+    std::size_t end = begin;
+    while (end < places.size() && places[end].node == places[begin].node) {
+      ++end;
+    }
+    return end;
+  }
+
+  void WriteHeading(std::string_view indent, const std::string& text) {
+    fOut += indent;
+    fOut += fColour == Colour::Headings ? "\x1b[1m" + text + "\x1b[0m" : text;
+    fOut += '\n';
+  }
+
+  void WriteServer() {
+    std::string text =
+        text::EscapeForPeople(fReport->server.name) + " (" + fReport->server.kind + ")";
+    if (!fReport->server.description.empty()) {
+      text += ": " + text::EscapeForPeople(fReport->server.description);
+    }
+    WriteHeading("", text);
+  }
+
+  void WriteGroup(std::span<const Place> group) {
+    fOut += '\n';
+    if (group.front().node) {
+      ++fServiceProcessors;
+      WriteHeading("", "Service processor " + std::to_string(*group.front().node));
+    } else {
+      WriteHeading("", "No service processor");
+    }
+    const auto isSensor = [](const Place& place) {
+      return place.instance->className == kSensorClass;
+    };
+    const auto sensors = std::find_if(group.begin(), group.end(), isSensor);
+    const auto rest = std::find_if_not(sensors, group.end(), isSensor);
+    WriteBlocks({group.begin(), sensors});
+    if (sensors != rest) {
+      WriteSensors({sensors, rest});
+    }
+    WriteBlocks({rest, group.end()});
+  }
+
+  void WriteBlocks(std::span<const Place> places) {
+    for (const Place& place : places) {
+      WriteBlock(*place.instance);
+    }
+  }
+
+  void WriteBlock(const cim::StoredInstance& instance) {
+    fOut += '\n';
+    WriteHeading(kTitleIndent, InstanceTitle(instance));
+    const std::vector<Row> rows = InstanceRows(instance, fReport->showSecrets);
+    std::size_t width = 0;
+    for (const Row& row : rows) {
+      width = std::max(width, text::CountCodePoints(row.label));
+    }
+    for (const Row& row : rows) {
+      fOut += kRowIndent;
+      fOut += row.label;
+      if (!row.value.empty()) {
+        Pad(width - text::CountCodePoints(row.label));
+        fOut += kGap;
+        fOut += row.value;
+      }
+      fOut += '\n';
+    }
+  }
+
+  void WriteSensors(std::span<const Place> sensors) {
+    fOut += '\n';
+    WriteHeading(kTitleIndent, InstanceTitle(*sensors.front().instance));
+    std::vector<SensorText> rows;
+    rows.reserve(sensors.size());
+    std::size_t nameWidth = 0;
+    std::size_t readingWidth = 0;
+    for (const Place& place : sensors) {
+      rows.push_back(TextOfSensor(*place.instance));
+      nameWidth = std::max(nameWidth, text::CountCodePoints(rows.back().name));
+      readingWidth = std::max(readingWidth, text::CountCodePoints(rows.back().reading));
+    }
+    for (const SensorText& row : rows) {
+      fOut += kRowIndent;
+      fOut += row.name;
+      Pad(nameWidth - text::CountCodePoints(row.name));
+      fOut += kGap;
+      Pad(readingWidth - text::CountCodePoints(row.reading));
+      fOut += row.reading;
+      fOut += row.unit.empty() ? "" : " " + row.unit;
+      fOut += '\n';
+    }
+  }
+
+  void WriteSummary() {
+    fOut += '\n';
+    if (fReport->instances.empty()) {
+      fOut += "No instances were collected.\n";
+    }
+    fOut += Counted(fReport->instances.size(), "instance", "instances") + ", " +
+            Counted(fReport->queries, "query", "queries") + ", " +
+            Counted(fServiceProcessors, "service processor", "service processors") + "\n";
+    for (const cim::EqualKeys& equal : fReport->equalKeys) {
+      fOut += "Warning: " + EqualKeysWarning(equal) + "\n";
+    }
+  }
+
+  void Pad(std::size_t count) { fOut.append(count, ' '); }
+
+  const Report* fReport;
+  Colour fColour;
+  std::size_t fServiceProcessors = 0;
+  std::string fOut;
+};
+
+}  // namespace
+
+std::string TableReport(const Report& report, Colour colour) {
+  return TableWriter(report, colour).Write();
+}
+
+}  // namespace strake::report
