@@ -1,6 +1,6 @@
 #include "bench/Floor.h"
 
-#include "plugin/config/InstanceBuilder.h"
+#include "plugin/frame/base/InstanceBuilder.h"
 #include "plugin/host/TCIMSchemaHelper.h"
 #include "plugin/host/TOSSpecific.h"
 #include "plugin/host/TRootObject.h"
@@ -30,12 +30,11 @@ Floor::Floor(std::vector<Call> calls, Arguments arguments)
   fInstances.resize(instances + 1);
 }
 
-// A line that is made is at least copied.
+// A line that is made is a text of its own.
 template <Arguments How>
 void Floor::Log(const Call& call) {
   if constexpr (How == Arguments::Made) {
-    fLine = call.text;
-    fLogger.Log(call.level, fLine);
+    fLogger.Log(call.level, std::string(call.text));
   } else {
     fLogger.Log(call.level, call.text);
   }
@@ -45,10 +44,18 @@ template <Arguments How>
 void Floor::SetProperty(const Call& call) {
   NVELKZEV20::ICIMInstance& instance = *fInstances[call.instance];
   if constexpr (How == Arguments::Made) {
-    fName = call.text;
-    instance.SetProperty(fName, MakeValue(call.source), {});
+    instance.SetProperty(std::string(call.text), MakeValue(call.source), {});
   } else {
     instance.SetProperty(call.text, call.value, {});
+  }
+}
+
+template <Arguments How>
+void Floor::GetClass(const Call& call, ICIMNamespace& cimNamespace) {
+  if constexpr (How == Arguments::Made) {
+    cimNamespace.GetClass(fClass, std::string(call.text), MakeContext());
+  } else {
+    cimNamespace.GetClass(fClass, call.text, fContext);
   }
 }
 
@@ -111,7 +118,7 @@ void Floor::ReplayWith(const boost::shared_ptr<ICIMNamespace>& cimNamespace,
         static_cast<void>(classes[call.instance]->GetName());
         break;
       case Kind::GetClass:
-        cimNamespace->GetClass(fClass, call.text, fContext);
+        GetClass<How>(call, *cimNamespace);
         break;
       case Kind::Create:
         fClass->CreateInstance(fInstances[call.instance], fNothing);

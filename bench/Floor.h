@@ -15,7 +15,9 @@ namespace strake::bench {
 
 enum class Arguments {
   Ready,  // made before anything is measured
-  Made,   // lines, values and commands made for each call, as a plug-in has to
+  // Made for each call, as a plug-in has to: a text a line, a name and a value a
+  // property, a context a class look-up, a command and its cleared reply.
+  Made,
 };
 
 class Floor {
@@ -35,6 +37,8 @@ class Floor {
   template <Arguments How>
   void SetProperty(const Call& call);
   template <Arguments How>
+  void GetClass(const Call& call, NVELKZEV20::ICIMNamespace& cimNamespace);
+  template <Arguments How>
   void SendDot(const Call& call);
   template <Arguments How>
   void SendKestle(const Call& call);
@@ -47,8 +51,6 @@ class Floor {
   NVELKZEV20::TNameToValueMap fNothing;
   NVELKZEV20::ILogger& fLogger;
   NVELKZEV20::SPLibrary& fLibrary;
-  std::string fLine;
-  std::string fName;
   std::array<unsigned char, 4096> fReply{};
   std::array<std::array<unsigned char, 4096>, 3> fList{};
 };

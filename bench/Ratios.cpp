@@ -35,8 +35,8 @@ void RatioReporter::PrintRatios(std::ostream& out) const {
   };
   out << "\nmedians, beside their floors, and the ratio\n";
   for (const auto& [what, floors] :
-       {std::pair("Query/", std::array{"Floor/", "MadeFloor/"}),
-        std::pair("Silent/", std::array{"SilentFloor/", "SilentMadeFloor/"})}) {
+       {std::pair("Query/", std::array{"MadeFloor/", "Floor/"}),
+        std::pair("Silent/", std::array{"SilentMadeFloor/", "SilentFloor/"})}) {
     for (const char* const floor : floors) {
       for (const Group& group : Groups()) {
         ratio(what + std::string(group.name), floor + std::string(group.name));

@@ -14,7 +14,8 @@ class RatioReporter : public benchmark::ConsoleReporter {
   RatioReporter();
 
   void ReportRuns(const std::vector<Run>& runs) override;
-  // Query beside Floor, Silent beside SilentFloor, cost an SP beside that at 4.
+  // Query beside MadeFloor, which is the measure, and beside Floor; Silent the
+  // same; the cost an SP beside that at 4.
   void PrintRatios(std::ostream& out) const;
 
  private:

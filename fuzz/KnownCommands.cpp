@@ -16,12 +16,12 @@ std::vector<KnownCommand> Collect() {
   const auto addPlain = [&](std::span<const unsigned char> bytes) {
     commands.push_back({Identifier(bytes.begin(), bytes.end()), false});
   };
-  const auto addNumbered = [&](SharedIdentifier shared) {
-    const std::span<const unsigned char> bytes = shared.Bytes();
+  const auto addNumbered = [&](const DotIdentifier& identifier) {
+    const std::span<const unsigned char> bytes = identifier.Bytes();
     commands.push_back({Identifier(bytes.begin(), bytes.end()), true});
   };
   const auto addSensors = [&](std::span<const OrloSensorEntry> sensors) {
-    for (const OrloSensorEntry& sensor : sensors) addPlain(sensor.Identifier());
+    for (const OrloSensorEntry& sensor : sensors) addPlain(sensor.identifier.Bytes());
   };
 
   // Presence test, clock, time zone; location, contact, traps, SNMP versions,
@@ -32,12 +32,12 @@ std::vector<KnownCommand> Collect() {
   };
   for (const auto& bytes : kPlain) addPlain(bytes);
   const SharedIdentifiers shared;
-  for (const SharedIdentifier& identifier :
+  for (const DotIdentifier& identifier :
        {shared.networkInterface, shared.serialPort, shared.dialout, shared.dialin,
         shared.dialinAuthority, shared.dialinLastLogin, shared.dialOutAlerts}) {
     addNumbered(identifier);
   }
-  for (const SharedIdentifier& identifier : shared.dhcpValues) addNumbered(identifier);
+  for (const DotIdentifier& identifier : shared.dhcpValues) addNumbered(identifier);
   addSensors(kOrloVoltages);
   addSensors(kOrloTemperatures);
   addSensors(kOrloFans);

@@ -33,7 +33,7 @@
 
 #include "platform/boundary/BoundaryObserver.h"
 #include "platform/server/ServerDescription.h"
-#include "plugin/frame/ClassNames.h"
+#include "plugin/frame/base/ClassNames.h"
 
 #include <array>
 #include <cstddef>

@@ -107,8 +107,9 @@ void CheckSensors(ByteView reply, std::size_t firstByte, std::size_t number) {
   Check(IsSignedWord(DecodeKestleVoltage(reply, firstByte, number)), "a voltage is a signed word");
   Check(IsByte(DecodeKestleTemperature(reply, firstByte, number)), "a temperature is a byte");
   const unsigned char length = KestleReturnLength(reply);
-  for (const KestleFanLayout& layout : kKestleFans) {
-    if (!IsExpectedFanLength(layout, length)) continue;
+  for (const TavitFamily& family : kTavitFamilies) {
+    if (!family.fans || !IsExpectedFanLength(*family.fans, length)) continue;
+    const KestleFanLayout& layout = *family.fans;
     const std::size_t fans = layout.fans != 0 ? layout.fans : KestleFansByLength(length);
     Check(fans <= std::size(kKestleFanNames), "an expected length has room for known fans");
     Check(layout.firstByte + 2 * fans <= length, "the fans lie within the expected length");

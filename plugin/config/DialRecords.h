@@ -2,8 +2,12 @@
 #pragma once
 
 #include "plugin/config/ElementRecord.h"
+#include "plugin/spaccess/ByteView.h"
 
 namespace strake {
+
+// Dial replies are read into more bytes than an element can begin in.
+using DialReply = ReplyBuffer<350>;
 
 inline constexpr CodeText kParityCodes[] = {
     {1, "Odd"},

@@ -1,27 +1,25 @@
 // Reads one dial-in login: its entry, its authority levels and its last visit,
 // each with a command of its own.
-#include "plugin/config/DialInstances.h"
 #include "plugin/config/DialRecords.h"
-#include "plugin/config/DotRequest.h"
+#include "plugin/config/ServiceProcessor.h"
 #include "plugin/config/SharedIdentifiers.h"
 #include "plugin/config/SpClock.h"
-#include "plugin/frame/TStrakePluginCallbacks.h"
 
 #include <cstdint>
 #include <exception>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace strake {
 
+using NVELKZEV20::ICIMNamespace;
 using NVELKZEV20::kZEVSuccess;
+using NVELKZEV20::SPLibrary;
 using NVELKZEV20::TCIMDateTime;
-using NVELKZEV20::TCIMValue;
 using NVELKZEV20::TZEVStatusCode;
 
 namespace {
-
-using DialinReply = ReplyBuffer<kDialReplySize>;
 
 // Unlike its siblings this reader sets the name before the source node.
 constexpr IdentityProperty kIdentity[] = {
@@ -31,46 +29,51 @@ constexpr IdentityProperty kIdentity[] = {
 };
 constexpr InstanceKind kDialin = {kDialProtocolEndpoint2, kDialProtocolEndpoint, kIdentity};
 
+// A zero byte of each command's own.
+constexpr unsigned char kLoginExtraData = 0;
+constexpr unsigned char kAuthorityExtraData = 0;
+constexpr unsigned char kTimeZoneExtraData = 0;
+constexpr unsigned char kLastLoginExtraData = 0;
+
 void PublishAuthority(const TStrakePluginCallbacks& callbacks, std::uint16_t authority,
-                      InstanceBuilder& instance) {
+                      const InstanceBuilder& instance) {
   callbacks.LogLevel4("Authority Levels value = ", authority);
-  const TCIMValue enabled{std::string(kEnabledWhenSet.other)};
-  const TCIMValue disabled{std::string(kEnabledWhenSet.zero)};
   unsigned int bits = authority;
   for (const std::string_view level : kAuthorityLevels) {
-    instance.Set(level, (bits & 1U) != 0 ? enabled : disabled);
+    const bool isSet = (bits & 1U) != 0;
+    instance.Set(level, std::string(isSet ? kEnabledWhenSet.other : kEnabledWhenSet.zero));
     bits >>= 1U;
   }
 }
 
 void PublishLastLogin(const TStrakePluginCallbacks& callbacks, const SpTime& time,
-                      std::uint16_t timeZone, TCIMDateTime& lastLogin, InstanceBuilder& instance) {
+                      std::uint16_t timeZone, TCIMDateTime& lastLogin,
+                      const InstanceBuilder& instance) {
   callbacks.LogLevel3("LastLogin = ", time.month, "/", time.day, "/", time.year, " ", time.hour,
                       ":", time.minute, ":", time.second, " GMT offset (", timeZone, ")");
   try {
     SetDateTime(lastLogin, time, timeZone);
   } catch (const std::exception&) {
-    // The line above has told what the SP said; this is what hosts know as
-    // "no usable date".
+    // Stands for a date that the host does not accept.
     lastLogin.Set(1970, 1, 2, 12, 0, 0, 0, 0);
   }
   instance.Set("LastLogin", lastLogin);
 }
 
-void ReadLogin(TStrakePluginCallbacks& callbacks, const ServiceProcessor& sp, unsigned char number,
-               InstanceBuilder& instance) {
+void ReadLogin(const SpLink& link, unsigned char number, const InstanceBuilder& instance) {
+  const TStrakePluginCallbacks& callbacks = link.callbacks;
   SharedIdentifiers& identifiers = Identifiers();
-  DialinReply reply;
+  DialReply reply;
 
   identifiers.dialin.Address(number);
-  if (reply.Send(callbacks, sp, identifiers.dialin.Bytes())) {
-    PublishRecord(callbacks, kDialinRecord, reply.Whole(), instance);
+  if (link.Ask(identifiers.dialin.Bytes(), reply, &kLoginExtraData)) {
+    PublishRecord(callbacks, kDialinRecord, reply.Whole(), instance.Instance());
   } else {
     callbacks.LogLevel3("No data retrieved for Dial in settings.");
   }
 
   identifiers.dialinAuthority.Address(number);
-  if (reply.Send(callbacks, sp, identifiers.dialinAuthority.Bytes())) {
+  if (link.Ask(identifiers.dialinAuthority.Bytes(), reply, &kAuthorityExtraData)) {
     PublishAuthority(callbacks, reply.Whole().LittleEndian16(0), instance);
   } else {
     callbacks.LogLevel3("No data retrieved for Authority Levels.");
@@ -78,9 +81,9 @@ void ReadLogin(TStrakePluginCallbacks& callbacks, const ServiceProcessor& sp, un
 
   TCIMDateTime lastLogin;
   std::uint16_t timeZone = 0;
-  // The time zone comes in over what the authority levels left: a short reply
-  // keeps their high byte, and hosts have always seen that offset.
-  if (reply.SendUncleared(callbacks, sp, kReadTimeZone)) {
+  // The time zone comes in over what the authority levels left: a reply of one
+  // byte keeps their high byte.
+  if (link.AskUncleared(kReadTimeZone.Bytes(), reply, &kTimeZoneExtraData)) {
     timeZone = DecodeUtcOffset(reply.Whole());
     callbacks.LogLevel4("Timezone = ", timeZone);
   } else {
@@ -88,7 +91,7 @@ void ReadLogin(TStrakePluginCallbacks& callbacks, const ServiceProcessor& sp, un
   }
 
   identifiers.dialinLastLogin.Address(number);
-  if (reply.Send(callbacks, sp, identifiers.dialinLastLogin.Bytes())) {
+  if (link.Ask(identifiers.dialinLastLogin.Bytes(), reply, &kLastLoginExtraData)) {
     PublishLastLogin(callbacks, DecodeSpTime(reply.Whole()), timeZone, lastLogin, instance);
   } else {
     callbacks.LogLevel3("No data retrieved for Last Login.");
@@ -97,17 +100,19 @@ void ReadLogin(TStrakePluginCallbacks& callbacks, const ServiceProcessor& sp, un
 
 }  // namespace
 
-TZEVStatusCode TStrakePluginCallbacks::getDialinSettings(const ServiceProcessor& sp,
-                                                         unsigned char number) {
+TZEVStatusCode TStrakePluginCallbacks::getDialinSettings(
+    boost::shared_ptr<ICIMNamespace> cimNamespace, unsigned char number, SPLibrary* spLib,
+    std::string MTM, std::string systemName, unsigned char sp) {
   LogLevel4("TStrakePluginCallbacks::getDialinSettings entered. Instance #", number);
+  const ServiceProcessor processor = {
+      {*this, spLib, sp}, std::move(cimNamespace), std::move(MTM), std::move(systemName)};
   if (fServProc_DialProtocolEndpoint2) {
     // Created before the first send and published whatever the four commands
     // bring.
-    InstanceBuilder& instance = sp.Builder(kDialin);
-    instance.Create(sp.Number());
+    const InstanceBuilder instance(kDialin, processor.Identity());
     instance.IdentifyAll();
     instance.Set("Instance", MakeText(number));
-    ReadLogin(*this, sp, number, instance);
+    ReadLogin(processor.link, number, instance);
     instance.Commit();
   }
   LogLevel4("TStrakePluginCallbacks::getDialinSettings completed.");

@@ -37,8 +37,8 @@ class ElementCursor {
     return fRecord.From(fStart + kCharacters, std::min(DataLength(), MaximumLength()));
   }
 
-  // SPs lay records out for readers that keep the position in eight bits: an
-  // element that would begin at 256 or beyond begins 256 bytes earlier.
+  // The position has eight bits: an element that would begin at 256 or beyond
+  // begins 256 bytes earlier.
   void Advance() { fStart = static_cast<unsigned char>(fStart + kData + DataLength()); }
 
  private:

@@ -1,7 +1,7 @@
 #include "plugin/config/ElementRecord.h"
 
-#include "plugin/config/InstanceBuilder.h"
 #include "plugin/frame/TStrakePluginCallbacks.h"
+#include "plugin/frame/base/InstanceBuilder.h"
 
 namespace strake {
 namespace {
@@ -24,7 +24,7 @@ void LogElement(const TStrakePluginCallbacks& callbacks, const RecordLayout& lay
 }  // namespace
 
 void PublishRecord(const TStrakePluginCallbacks& callbacks, const RecordLayout& layout,
-                   ByteView record, InstanceBuilder& instance) {
+                   ByteView record, const boost::shared_ptr<NVELKZEV20::ICIMInstance>& instance) {
   ElementCursor element(record);
   std::string text;
   const bool isLogging = callbacks.IsLogging();
@@ -37,7 +37,7 @@ void PublishRecord(const TStrakePluginCallbacks& callbacks, const RecordLayout& 
       callbacks.LogLevel3(field.name, " = ", text);
     }
     if (field.isPublished) {
-      instance.Set(field.name, text);
+      SetProperty(instance, field.name, text);
     }
     element.Advance();
   }

@@ -3,13 +3,14 @@
 
 #include "plugin/config/ElementCursor.h"
 #include "plugin/config/ValueDecoders.h"
+#include "plugin/host/ICIM.h"
 
+#include <boost/shared_ptr.hpp>
 #include <span>
 #include <string_view>
 
 namespace strake {
 
-class InstanceBuilder;
 class TStrakePluginCallbacks;
 
 enum class FieldForm {
@@ -48,6 +49,6 @@ struct RecordLayout {
 // Decodes the record's fields in order: logs each, and sets those that are
 // published on the instance.
 void PublishRecord(const TStrakePluginCallbacks& callbacks, const RecordLayout& layout,
-                   ByteView record, InstanceBuilder& instance);
+                   ByteView record, const boost::shared_ptr<NVELKZEV20::ICIMInstance>& instance);
 
 }  // namespace strake

@@ -2,8 +2,12 @@
 #pragma once
 
 #include "plugin/config/ElementRecord.h"
+#include "plugin/spaccess/ByteView.h"
+#include "plugin/spaccess/DotIdentifier.h"
 
 namespace strake {
+
+using NetworkReply = ReplyBuffer<256>;
 
 inline constexpr CodeText kLineTypeCodes[] = {
     {1, "Ethernet"},
@@ -89,5 +93,51 @@ inline constexpr RecordField kCommunityFields[] = {
 inline constexpr RecordLayout kInterfaceRecord = {.fields = kInterfaceFields};
 inline constexpr RecordLayout kDnsRecord = {.fields = kDnsFields, .tellsVectorIds = false};
 inline constexpr RecordLayout kCommunityRecord = {.fields = kCommunityFields};
+
+// The summary of SNMP and DNS: values that are a whole reply of their own ...
+struct SummaryValue {
+  std::string_view name;
+  DotIdentifier identifier;
+  ValueDecoder decode = nullptr;
+};
+
+inline constexpr SummaryValue kSummaryValues[] = {
+    {"SystemLocation", {4, 9, 3, 1, 2}, DecodeText},
+    {"SystemContact", {4, 9, 3, 1, 1}, DecodeText},
+    {"Traps", {4, 9, 3, 1, 3}, DecodeFlag<kEnabledWhenClear>},
+    {"SNMPv1", {4, 9, 3, 1, 5}, DecodeFlag<>},
+    {"SNMPv3", {4, 9, 3, 1, 6}, DecodeFlag<>},
+};
+
+// ... and records.
+struct SummaryRecord {
+  std::string_view name;
+  DotIdentifier identifier;
+  RecordLayout layout;
+};
+
+inline constexpr SummaryRecord kSummaryRecords[] = {
+    {"DNS Configuration Summary", {4, 9, 3, 2, 255}, kDnsRecord},
+    {"SNMP Configuration Summary", {4, 9, 3, 1, 4, 255}, kCommunityRecord},
+};
+
+// What the DHCP server assigned to an interface, a bare value a reply; in the
+// order of the shared identifiers.
+struct DhcpValue {
+  std::string_view name;
+  ValueDecoder decode;
+};
+
+inline constexpr DhcpValue kDhcpValues[] = {
+    {"DHCPHostName", DecodeText},
+    {"DHCPAssignedIPAddress", DecodeAddress},
+    {"DHCPAssignedGatewayAddress", DecodeAddress},
+    {"DHCPAssignedSubnetMask", DecodeAddress},
+    {"DHCPDomainName", DecodeText},
+    {"DHCPServer", DecodeAddress},
+    {"DHCPPrimaryDNS", DecodeAddress},
+    {"DHCPSecondaryDNS", DecodeAddress},
+    {"DHCPTertiaryDNS", DecodeAddress},
+};
 
 }  // namespace strake

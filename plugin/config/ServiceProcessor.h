@@ -1,61 +1,65 @@
-// One Orlo service processor, as the configuration builders work on it.
+// One Orlo service processor, as the configuration builders work on it: its
+// commands and the identity of its instances.
 #pragma once
 
-#include "plugin/config/InstanceBuilder.h"
-#include "plugin/frame/Text.h"
-#include "plugin/host/ICIM.h"
-#include "plugin/spaccess/SPLibrary.h"
+#include "plugin/frame/TStrakePluginCallbacks.h"
+#include "plugin/frame/base/InstanceBuilder.h"
+#include "plugin/spaccess/ByteView.h"
+#include "plugin/spaccess/DotIdentifier.h"
 
 #include <boost/shared_ptr.hpp>
-#include <optional>
+#include <cstddef>
+#include <span>
 #include <string>
-#include <utility>
 
 namespace strake {
 
-// The number that people know an SP by: counted from 1, in eight bits.
-inline unsigned char NodeNumber(unsigned char sp) { return static_cast<unsigned char>(sp + 1); }
+// What a command carries beside its identifier: nothing, told by a zero byte.
+// Some commands have such a byte of their own.
+inline constexpr unsigned char kNoExtraData = 0;
 
+// The way of a builder's commands to one SP.
+struct SpLink {
+  TStrakePluginCallbacks& callbacks;
+  NVELKZEV20::SPLibrary* spLib;
+  unsigned char sp;
+
+  // Sends `identifier` into a cleared buffer. True when data came: the command
+  // was carried out and its reply is not empty.
+  template <std::size_t Size>
+  bool Ask(std::span<const unsigned char> identifier, ReplyBuffer<Size>& reply,
+           const unsigned char* extraData = &kNoExtraData) const {
+    reply.Clear();
+    return AskUncleared(identifier, reply, extraData);
+  }
+
+  // Leaves what the buffer holds where the reply does not reach.
+  template <std::size_t Size>
+  bool AskUncleared(std::span<const unsigned char> identifier, ReplyBuffer<Size>& reply,
+                    const unsigned char* extraData = &kNoExtraData) const {
+    unsigned char status = 0;
+    reply.length = callbacks.sendCommand(kCommandClass, static_cast<int>(identifier.size()), 0,
+                                         identifier.data(), extraData, reply.bytes.data(),
+                                         static_cast<int>(Size), &status, spLib, sp);
+    return status != 0 && reply.length != 0;
+  }
+};
+
+// What a builder of an SP's instances was given, and the context that it made
+// for its class look-ups.
 struct ServiceProcessor {
-  ServiceProcessor(boost::shared_ptr<NVELKZEV20::ICIMNamespace> target,
-                   NVELKZEV20::SPLibrary* library, std::string MTM, std::string hostName,
-                   unsigned char sp)
-      : cimNamespace(std::move(target)),
-        spLib(library),
-        machineType(std::move(MTM)),
-        systemName(std::move(hostName)),
-        index(sp),
-        nodeName(MakeText(machineType, "-Node", NodeNumber(sp))),
-        context(MakeContext()) {}
-  ServiceProcessor(const ServiceProcessor&) = delete;  // the builder refers to it
-  ServiceProcessor& operator=(const ServiceProcessor&) = delete;
-  ~ServiceProcessor() = default;
-
-  [[nodiscard]] unsigned char Number() const { return NodeNumber(index); }
+  SpLink link;
+  boost::shared_ptr<NVELKZEV20::ICIMNamespace> cimNamespace;
+  std::string MTM;
+  std::string systemName;
+  NVELKZEV20::ContextMap context = MakeContext();
+  std::string nodeName = MakeText(MTM, "-Node", NodeNumber(link.sp));
 
   // The identity of an instance of this SP, under the SP's own name or another.
   [[nodiscard]] InstanceIdentity Identity() const { return Identity(nodeName); }
   [[nodiscard]] InstanceIdentity Identity(const std::string& name) const {
-    return {cimNamespace, context, name, systemName};
+    return {cimNamespace, context, name, systemName, NodeNumber(link.sp)};
   }
-
-  // The builder of the SP's instances of one kind, under its own name. Instances
-  // of a kind come one after the other, so the last builder is kept.
-  InstanceBuilder& Builder(const InstanceKind& kind) const {
-    if (!lastBuilder || &lastBuilder->Kind() != &kind) {
-      lastBuilder.emplace(kind, Identity());
-    }
-    return *lastBuilder;
-  }
-
-  boost::shared_ptr<NVELKZEV20::ICIMNamespace> cimNamespace;
-  NVELKZEV20::SPLibrary* spLib;
-  std::string machineType;
-  std::string systemName;
-  unsigned char index;
-  std::string nodeName;  // the machine type, "-Node" and the number
-  NVELKZEV20::ContextMap context;
-  mutable std::optional<InstanceBuilder> lastBuilder;
 };
 
 }  // namespace strake

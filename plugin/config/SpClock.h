@@ -4,14 +4,15 @@
 
 #include "plugin/host/TCIMDateTime.h"
 #include "plugin/spaccess/ByteView.h"
+#include "plugin/spaccess/DotIdentifier.h"
 
-#include <array>
 #include <cstdint>
 
 namespace strake {
 
-// Reads the UTC offset: two bytes, low byte first.
-inline constexpr std::array<unsigned char, 3> kReadTimeZone = {4, 4, 2};
+inline constexpr DotIdentifier kReadClock = {4, 4, 1};
+// The UTC offset: two bytes, low byte first.
+inline constexpr DotIdentifier kReadTimeZone = {4, 4, 2};
 
 // All fields as the SP tells them, in no checked range.
 struct SpTime {

@@ -29,8 +29,8 @@ void DecodeLoginFlags(ByteView value, std::string& text) {
   constexpr int kDialBack = 2;
   const int flags = value[0];
   text = (flags & kReadOnly) == 0 ? "Read/write permision. " : "Read only permission. ";
-  // The isolated bit is 0 or 2, so "enabled" is never told: hosts rely on a
-  // login with dial-back showing its permission alone.
+  // The isolated bit is 0 or 2, so "enabled" is never told: a login with
+  // dial-back shows its permission alone.
   const int dialBack = flags & kDialBack;
   if (dialBack == 0) {
     text += "Dial back disabled";

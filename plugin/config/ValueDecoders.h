@@ -2,7 +2,7 @@
 // than its decoder needs reads as zeros where it ends.
 #pragma once
 
-#include "plugin/frame/Text.h"
+#include "plugin/frame/base/Text.h"
 #include "plugin/spaccess/ByteView.h"
 
 #include <array>
@@ -62,7 +62,7 @@ void DecodePointedDecimal(ByteView value, std::string& text) {
 
 // An IP address: 192.0.2.1.
 inline constexpr ValueDecoder DecodeAddress = DecodePointedDecimal<4>;
-// A locally administered MAC address, in the form that its readers expect.
+// A locally administered MAC address: 0.26.43.60.77.94.
 inline constexpr ValueDecoder DecodeMacDecimal = DecodePointedDecimal<6>;
 // A burned-in MAC address: 00:1A:2B:3C:4D:5E.
 void DecodeMacHexadecimal(ByteView value, std::string& text);

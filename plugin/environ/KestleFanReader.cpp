@@ -1,5 +1,4 @@
 // Reads the fan list of a Tavit processor.
-#include "plugin/environ/KestleRequest.h"
 #include "plugin/environ/KestleSensors.h"
 #include "plugin/environ/SensorDecoding.h"
 #include "plugin/environ/TSPEnviron.h"
@@ -13,25 +12,19 @@ namespace strake {
 using NVELKZEV20::kZEVSuccess;
 using NVELKZEV20::TZEVStatusCode;
 
-namespace {
-
-constexpr KestleRequest kFanRequest = {"ALERT_FAN_INFORMATION", 0xA2, 0x5E};
-
-}  // namespace
-
 TZEVStatusCode TSPEnviron::GetKestleFan(unsigned int kestleType) {
   LogLevel4("GetKestleFan() entered.");
-  KestleReply reply{};
+  KestleReply reply;
   if (!AskKestle(kFanRequest, reply)) {
     LogLevel3("No data retrieved for Kestle Fans.");
   } else {
     LogLevel3("Data retrieved for Kestle Fans.");
-    if (kestleType == kBladeFamily) {
-      LogLevel3("No Fan information available for blades.");
-    } else if (kestleType > kBladeFamily) {
+    if (kestleType >= std::size(kTavitFamilies)) {
       LogLevel3("No matching Kestle_Type for ", kFanRequest.name);
+    } else if (const auto& fans = std::span(kTavitFamilies)[kestleType].fans) {
+      DecodeKestleFans(*fans, reply.Whole());
     } else {
-      DecodeKestleFans(std::span(kKestleFans)[kestleType], ByteView(reply));
+      LogLevel3("No Fan information available for blades.");
     }
   }
   LogLevel4("GetKestleFan() completed.");

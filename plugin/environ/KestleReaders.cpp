@@ -1,9 +1,9 @@
 // Reads the voltage and temperature lists of a Tavit processor, one Kestle
 // command a list.
-#include "plugin/environ/KestleRequest.h"
 #include "plugin/environ/KestleSensors.h"
 #include "plugin/environ/SensorDecoding.h"
 #include "plugin/environ/TSPEnviron.h"
+#include "plugin/spaccess/DotIdentifier.h"
 
 namespace strake {
 
@@ -14,7 +14,7 @@ struct KestleListReader {
   const char* name;
   const char* subject;  // what the lines on data call it
   KestleRequest request;
-  std::span<const KestleListLayout> families;
+  KestleListLayout TavitFamily::*list;
   std::int32_t (*decode)(ByteView reply, std::size_t firstByte, std::size_t i);
   BaseUnits baseUnits;
   std::int32_t unitModifier;
@@ -25,8 +25,8 @@ namespace {
 constexpr KestleListReader kVoltageReader = {
     "GetKestleVoltage",
     "Kestle Voltage",
-    {"MSG_VOLTAGE_LIST", 0xA6, 0x5A},
-    kKestleVoltages,
+    kVoltageRequest,
+    &TavitFamily::voltages,
     DecodeKestleVoltage,
     kVolts,
     -2,
@@ -34,8 +34,8 @@ constexpr KestleListReader kVoltageReader = {
 constexpr KestleListReader kTemperatureReader = {
     "GetKestleTemperature",
     "Kestle Temperature",
-    {"MSG_TEMPERATURE_LIST", 0xA4, 0x5C},
-    kKestleTemperatures,
+    kTemperatureRequest,
+    &TavitFamily::temperatures,
     DecodeKestleTemperature,
     kDegreesC,
     0,
@@ -53,18 +53,19 @@ TZEVStatusCode TSPEnviron::GetKestleTemperature(unsigned int kestleType) {
 
 bool TSPEnviron::AskKestle(const KestleRequest& request, KestleReply& reply) {
   unsigned char status = 0;
-  const int length = sendKestleCommand(2, request.code, request.code, request.checksum, nullptr, 0,
-                                       false, true, reply.data(), fSpLibrary, &status);
-  return status != 0 && length != 0;
+  reply.length =
+      sendKestleCommand(kCommandClass, request.code, request.code, request.checksum, nullptr, 0,
+                        false, true, reply.bytes.data(), fSpLibrary, &status);
+  return status != 0 && reply.length != 0;
 }
 
 TZEVStatusCode TSPEnviron::ReadKestleList(const KestleListReader& reader, unsigned int kestleType,
                                           std::vector<SensorRecord>& records) {
   LogLevel4(reader.name, "() entered.");
-  KestleReply reply{};
+  KestleReply reply;
   if (AskKestle(reader.request, reply)) {
     LogLevel3("Data retrieved for ", reader.subject);
-    DecodeKestleList(reader, kestleType, ByteView(reply), records);
+    DecodeKestleList(reader, kestleType, reply.Whole(), records);
   } else {
     LogLevel3("No data retrieved for ", reader.subject);
   }
@@ -74,20 +75,21 @@ TZEVStatusCode TSPEnviron::ReadKestleList(const KestleListReader& reader, unsign
 
 void TSPEnviron::DecodeKestleList(const KestleListReader& reader, unsigned int kestleType,
                                   ByteView reply, std::vector<SensorRecord>& records) {
-  if (kestleType >= reader.families.size()) {
+  if (kestleType >= std::size(kTavitFamilies)) {
     LogLevel3("No matching Kestle_Type for ", reader.request.name);
     return;
   }
-  const KestleListLayout& family = reader.families[kestleType];
-  if (KestleReturnLength(reply) != family.expectedLength) {
-    LogLevel3("Did not obtain correct returnLength for ", family.family, " ", reader.request.name);
+  const TavitFamily& family = std::span(kTavitFamilies)[kestleType];
+  const KestleListLayout& list = family.*reader.list;
+  if (KestleReturnLength(reply) != list.expectedLength) {
+    LogLevel3("Did not obtain correct returnLength for ", family.name, " ", reader.request.name);
     return;
   }
-  for (std::size_t i = 0; i < family.names.size(); ++i) {
-    const std::int32_t reading = reader.decode(reply, family.firstByte, i);
-    LogLevel3(family.names[i], " = ", reading);
+  for (std::size_t i = 0; i < list.names.size(); ++i) {
+    const std::int32_t reading = reader.decode(reply, list.firstByte, i);
+    LogLevel3(list.names[i], " = ", reading);
     records.emplace_back(static_cast<std::uint16_t>(i), reading, reader.baseUnits,
-                         reader.unitModifier, family.names[i]);
+                         reader.unitModifier, list.names[i]);
   }
 }
 

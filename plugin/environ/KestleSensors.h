@@ -3,21 +3,56 @@
 // length, which must be the family's before anything else is believed.
 #pragma once
 
-#include <array>
 #include <cstddef>
 #include <iterator>
+#include <optional>
 #include <span>
 
 namespace strake {
 
-// Machine families, as Kestle_Type counts them; any other number is no family.
-inline constexpr std::size_t kKestleFamilies = 4;
+// A list that a Tavit processor is asked for. Code and checksum add up to 0
+// modulo 256.
+struct KestleRequest {
+  const char* name;  // as the messages call it
+  unsigned char code;
+  unsigned char checksum;
+};
 
+inline constexpr KestleRequest kVoltageRequest = {"MSG_VOLTAGE_LIST", 0xA6, 0x5A};
+inline constexpr KestleRequest kTemperatureRequest = {"MSG_TEMPERATURE_LIST", 0xA4, 0x5C};
+inline constexpr KestleRequest kFanRequest = {"ALERT_FAN_INFORMATION", 0xA2, 0x5E};
+
+// A list of voltages (two bytes a reading, high byte first) or temperatures (one
+// byte a reading).
 struct KestleListLayout {
-  const char* family;  // as the messages call it
   unsigned char expectedLength;
   std::size_t firstByte;
   std::span<const char* const> names;  // one a reading, in reply order
+};
+
+// A header byte of the fan list that is only logged.
+struct KestleFanHeader {
+  const char* label;
+  std::size_t byte;
+};
+
+// A list of fans: speeds are two bytes, high byte first.
+struct KestleFanLayout {
+  const char* family;  // as the fan messages call it
+  std::span<const unsigned char> expectedLengths;
+  std::size_t fans;  // 0: as many as the length leaves room for
+  std::span<const KestleFanHeader> headers;
+  std::size_t firstByte;
+  const char* highByteLabel;
+  const char* lowByteLabel;  // says "<<8" too, though the low byte is not shifted
+};
+
+// What the machines of one family answer with.
+struct TavitFamily {
+  const char* name;  // as the voltage and temperature messages call it
+  KestleListLayout voltages;
+  KestleListLayout temperatures;
+  std::optional<KestleFanLayout> fans;  // blades have none of their own
 };
 
 inline constexpr const char* kPilkarVoltageNames[] = {
@@ -37,14 +72,6 @@ inline constexpr const char* kBladeVoltageNames[] = {
     "2.5V Remote",  "1.8V Remote", "CPU Core Voltage",
 };
 
-// Readings are two bytes, high byte first.
-inline constexpr KestleListLayout kKestleVoltages[kKestleFamilies] = {
-    {"Pilkar/Mossel/Fendra", 18, 4, kPilkarVoltageNames},
-    {"Tessil", 18, 4, kTessilVoltageNames},
-    {"Nembro", 16, 4, kNembroVoltageNames},
-    {"Blade", 30, 4, kBladeVoltageNames},
-};
-
 inline constexpr const char* kFourTemperatureNames[] = {
     "Ambient Temperature",
     "CPU 1 Temperature",
@@ -55,8 +82,8 @@ inline constexpr const char* kTessilTemperatureNames[] = {
     "Environment Temperature", "CPU 1 Temperature",  "CPU 2 Temperature",
     "DASD 1 Temperature",      "DASD 2 Temperature", "DASD 3 Temperature",
 };
-// The second name is run together on purpose: hosts know sensor 1 of this
-// family by it, and the five names behind it belong to sensors 2 to 6.
+// The second name, that of sensor 1, is three names run together; the five
+// behind it belong to sensors 2 to 6.
 inline constexpr const char* kNembroTemperatureNames[] = {
     "Ambient Temperature", "Processor Area TemperaturePCI Area TemperatureCPU 1 Temperature",
     "CPU 2 Temperature",   "CPU 3 Temperature",
@@ -64,33 +91,8 @@ inline constexpr const char* kNembroTemperatureNames[] = {
     "DASD 2 Temperature",
 };
 
-// Readings are one byte.
-inline constexpr KestleListLayout kKestleTemperatures[kKestleFamilies] = {
-    {"Pilkar/Mossel/Fendra", 10, 6, kFourTemperatureNames},
-    {"Tessil", 12, 6, kTessilTemperatureNames},
-    {"Nembro", 18, 6, kNembroTemperatureNames},
-    {"Blade", 9, 5, kFourTemperatureNames},
-};
-
 inline constexpr const char* kKestleFanNames[] = {
     "Fan 1", "Fan 2", "Fan 3", "Fan 4", "Fan 5", "Fan 6", "Fan 7", "Fan 8", "Fan 9",
-};
-
-// A header byte of the fan list that is only logged.
-struct KestleFanHeader {
-  const char* label;
-  std::size_t byte;
-};
-
-// Speeds are two bytes, high byte first.
-struct KestleFanLayout {
-  const char* family;
-  std::span<const unsigned char> expectedLengths;
-  std::size_t fans;  // 0: as many as the length leaves room for
-  std::span<const KestleFanHeader> headers;
-  std::size_t firstByte;
-  const char* highByteLabel;
-  const char* lowByteLabel;  // says "<<8" too, though the low byte is not shifted
 };
 
 inline constexpr unsigned char kPilkarFanLengths[] = {16, 18, 22};
@@ -111,16 +113,25 @@ inline constexpr KestleFanHeader kNembroFanHeaders[] = {
     {"Fans Expected Rokko = ", 5},
 };
 
-// Blades, the fourth family, have no fans of their own.
-inline constexpr KestleFanLayout kKestleFans[] = {
-    {"Pilkar/Mossel/Fendra", kPilkarFanLengths, 0, kPilkarFanHeaders, 6,
-     "  h8Data[i+6]<<8 = ", "  h8Data[i+7]<<8 = "},
-    {"Tessil/Varnel", kTessilFanLengths, 5, kTessilFanHeaders, 5,
-     "  h8Data[i+5]<<8 = ", "  h8Data[i+6]<<8 = "},
-    {"Nembro", kNembroFanLengths, 9, kNembroFanHeaders, 10,
-     "  h8Data[i+10]<<8 = ", "  h8Data[i+11]<<8 = "},
+// By Kestle_Type; any other number is no family.
+inline constexpr TavitFamily kTavitFamilies[] = {
+    {"Pilkar/Mossel/Fendra",
+     {18, 4, kPilkarVoltageNames},
+     {10, 6, kFourTemperatureNames},
+     KestleFanLayout{"Pilkar/Mossel/Fendra", kPilkarFanLengths, 0, kPilkarFanHeaders, 6,
+                     "  h8Data[i+6]<<8 = ", "  h8Data[i+7]<<8 = "}},
+    {"Tessil",
+     {18, 4, kTessilVoltageNames},
+     {12, 6, kTessilTemperatureNames},
+     KestleFanLayout{"Tessil/Varnel", kTessilFanLengths, 5, kTessilFanHeaders, 5,
+                     "  h8Data[i+5]<<8 = ", "  h8Data[i+6]<<8 = "}},
+    {"Nembro",
+     {16, 4, kNembroVoltageNames},
+     {18, 6, kNembroTemperatureNames},
+     KestleFanLayout{"Nembro", kNembroFanLengths, 9, kNembroFanHeaders, 10,
+                     "  h8Data[i+10]<<8 = ", "  h8Data[i+11]<<8 = "}},
+    {"Blade", {30, 4, kBladeVoltageNames}, {9, 5, kFourTemperatureNames}, std::nullopt},
 };
-inline constexpr std::size_t kBladeFamily = std::size(kKestleFans);
 
 static_assert(std::size(kPilkarVoltageNames) == 7 && std::size(kTessilVoltageNames) == 7);
 static_assert(std::size(kNembroVoltageNames) == 6 && std::size(kBladeVoltageNames) == 13);

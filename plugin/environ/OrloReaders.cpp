@@ -3,7 +3,6 @@
 #include "plugin/environ/SensorDecoding.h"
 #include "plugin/environ/TSPEnviron.h"
 
-#include <array>
 #include <span>
 
 namespace strake {
@@ -21,8 +20,6 @@ struct OrloReader {
 };
 
 namespace {
-
-constexpr std::size_t kReplySize = 256;
 
 constexpr unsigned char kVoltageExtra = 0;
 constexpr unsigned char kTemperatureExtra = 0;
@@ -52,16 +49,17 @@ TZEVStatusCode TSPEnviron::ReadOrloSensors(const OrloReader& reader,
     const OrloSensorEntry& sensor = reader.sensors[i];
     // Fresh zeros for every send: a reply that claims more bytes than it
     // brought must not show another sensor's.
-    std::array<unsigned char, kReplySize> reply{};
+    ReplyBuffer<256> reply;
     unsigned char status = 0;
-    const int length =
-        sendOrloCommand(2, static_cast<int>(sensor.identifierLength), 0, sensor.identifier.data(),
-                        reader.extraData, reply.data(), kReplySize, &status, fSpLibrary);
-    if (status == 0 || length == 0) {
+    const auto identifier = sensor.identifier.Bytes();
+    reply.length = sendOrloCommand(kCommandClass, static_cast<int>(identifier.size()), 0,
+                                   identifier.data(), reader.extraData, reply.bytes.data(),
+                                   static_cast<int>(reply.bytes.size()), &status, fSpLibrary);
+    if (status == 0 || reply.length == 0) {
       LogLevel3("No data retrieved for ", sensor.name);
       continue;
     }
-    const std::int32_t reading = reader.decode(ReceivedBytes(reply, length));
+    const std::int32_t reading = reader.decode(reply.Received());
     LogLevel3(sensor.name, " = ", reading);
     records.emplace_back(fNode, static_cast<std::uint16_t>(i), reading, reader.baseUnits,
                          reader.unitModifier, sensor.name);

@@ -1,7 +1,7 @@
 // Publishes sensor records as numeric-sensor instances.
-#include "plugin/config/InstanceBuilder.h"
 #include "plugin/environ/TSPEnviron.h"
-#include "plugin/frame/SystemName.h"
+#include "plugin/frame/base/InstanceBuilder.h"
+#include "plugin/frame/base/SystemName.h"
 
 namespace strake {
 namespace {
@@ -26,26 +26,24 @@ void TSPEnviron::Export(const char* exporter, const std::vector<SensorRecord>& r
 void TSPEnviron::printSensorVector(const std::vector<SensorRecord>& records) {
   LogLevel4("printSensorVector() entered.");
   const NVELKZEV20::ContextMap context = MakeContext();
-  const std::string systemName = ReadExportedSystemName(fLogSwitch, fNamespace);
-  // Readers of this trail expect the line a second time.
-  LogLevel4("printSensorVector() entered.");
-  // A sensor tells its name in another property.
-  const std::string noName;
-  InstanceBuilder instance(kNumericSensorKind, {fNamespace, context, noName, systemName});
+  const std::string systemName = ReadSystemName<NameGuard::QuestionOnly>(*this, fNamespace);
+  LogLevel4("printSensorVector() entered.");  // a second time
   for (const SensorRecord& record : records) {
-    PublishSensor(record, instance);
+    PublishSensor(record, context, systemName);
   }
   LogLevel4("printSensorVector() completed.");
 }
 
-void TSPEnviron::PublishSensor(const SensorRecord& record, InstanceBuilder& instance) const {
-  const auto sourceNode = static_cast<unsigned char>(record.Node() + 1);
-  const std::string deviceId = MakeText(record.Description(), "-Node", sourceNode);
+void TSPEnviron::PublishSensor(const SensorRecord& record, const NVELKZEV20::ContextMap& context,
+                               const std::string& systemName) const {
+  const unsigned char node = NodeNumber(record.Node());
+  const std::string deviceId = MakeText(record.Description(), "-Node", node);
 
   LogLevel4("Instance          = ", record.DeviceIndex());
-  instance.Create(sourceNode);
+  const InstanceBuilder instance(kNumericSensorKind,
+                                 {fNamespace, context, deviceId, systemName, node});
   instance.Identify(IdentityProperty::CreationClassName);
-  LogLevel4("SourceNode        = ", sourceNode);
+  LogLevel4("SourceNode        = ", node);
   instance.Identify(IdentityProperty::SourceNode);
   instance.Identify(IdentityProperty::SystemCreationClassName);
   instance.Identify(IdentityProperty::SystemName);

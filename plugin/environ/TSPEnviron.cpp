@@ -1,5 +1,8 @@
 #include "plugin/environ/TSPEnviron.h"
 
+#include "plugin/spaccess/CommandSenders.h"
+
+#include <exception>
 #include <utility>
 
 namespace strake {
@@ -10,12 +13,46 @@ TSPEnviron::TSPEnviron(boost::shared_ptr<NVELKZEV20::ICIMNamespace> cimNamespace
   LogLevel4("TSPEnviron() constructor entered.");
 }
 
-TSPEnviron::~TSPEnviron() {
+// What a logger throws reaches the host from here as from any other line, unless
+// an exception is on its way already: a second one would end the process.
+TSPEnviron::~TSPEnviron() noexcept(false) {
   try {
     LogLevel4("TSPEnviron destructor entered.");
   } catch (...) {
-    // A host whose logger throws loses this line, not its process.
+    if (std::uncaught_exceptions() == 0) {
+      throw;
+    }
   }
+}
+
+void TSPEnviron::Log(const std::string& message, int level) const {
+  LogMessage(fLogSwitch, level, message);
+}
+
+int TSPEnviron::sendOrloCommand(unsigned char commandClass, int identifierLength, int secondLength,
+                                const unsigned char* identifier, const unsigned char* extraData,
+                                unsigned char* reply, int replySize, unsigned char* status,
+                                NVELKZEV20::SPLibrary* spLib) {
+  static constexpr SenderWording kWording = {
+      .entered = "sendOrloCommand entered.",
+      .sent = "Sent Orlo command: ",
+      .completed = "sendOrloCommand completed.",
+      .namesInstance = false,
+  };
+  const auto sp = static_cast<unsigned char>(fNode);
+  return SendDotCommand(fLogSwitch, kWording,
+                        {commandClass, identifierLength, secondLength, identifier, extraData, reply,
+                         replySize, status, spLib, sp});
+}
+
+int TSPEnviron::sendKestleCommand(unsigned char length, unsigned char commandCode,
+                                  unsigned char expectedCode, unsigned char checksum,
+                                  unsigned char* commandData, int commandDataLength,
+                                  bool acknowledge, bool isRead, unsigned char* reply,
+                                  NVELKZEV20::SPLibrary* /*spLib*/, unsigned char* status) {
+  return SendKestleCommand(
+      fLogSwitch, {length, commandCode, expectedCode, checksum, commandData, commandDataLength,
+                   acknowledge, isRead, reply, status, fSpLibrary});
 }
 
 }  // namespace strake

@@ -2,24 +2,28 @@
 // readers, emptied by the exporters.
 #pragma once
 
-#include "plugin/environ/KestleRequest.h"
 #include "plugin/environ/SensorRecord.h"
-#include "plugin/frame/LogLine.h"
+#include "plugin/frame/base/LogLine.h"
 #include "plugin/host/ICIM.h"
 #include "plugin/host/TZEVStatusCode.h"
 #include "plugin/spaccess/ByteView.h"
+#include "plugin/spaccess/CommandSenders.h"
 #include "plugin/spaccess/SPLibrary.h"
 
 #include <boost/shared_ptr.hpp>
 #include <cstdint>
+#include <string>
+#include <utility>
 #include <vector>
 
 namespace strake {
 
-class InstanceBuilder;
 struct KestleFanLayout;
 struct KestleListReader;
+struct KestleRequest;
 struct OrloReader;
+
+using KestleReply = ReplyBuffer<kKestleReplySize>;
 
 class TSPEnviron {
  public:
@@ -28,10 +32,28 @@ class TSPEnviron {
              NVELKZEV20::SPLibrary* spLibrary, const void* logSwitch);
   TSPEnviron(const TSPEnviron&) = delete;
   TSPEnviron& operator=(const TSPEnviron&) = delete;
-  ~TSPEnviron();
+  ~TSPEnviron() noexcept(false);
 
-  // The SP instance that the Orlo readers read, counted from 0.
-  void SetNode(unsigned char node) { fNode = node; }
+  // The SP that the Orlo readers read.
+  void SetNode(unsigned char sp) { fNode = sp; }
+
+  // The logging wrappers, each with its level: one message, or its parts, which
+  // are put together only while the switch is on.
+  void LogLevel2(std::string message) const { Log(message, 2); }
+  void LogLevel3(std::string message) const { Log(message, 3); }
+  void LogLevel4(std::string message) const { Log(message, 4); }
+  template <typename... Parts>
+  void LogLevel2(const Parts&... parts) const {
+    if (IsLogging()) LogLevel2(MakeText(parts...));
+  }
+  template <typename... Parts>
+  void LogLevel3(const Parts&... parts) const {
+    if (IsLogging()) LogLevel3(MakeText(parts...));
+  }
+  template <typename... Parts>
+  void LogLevel4(const Parts&... parts) const {
+    if (IsLogging()) LogLevel4(MakeText(parts...));
+  }
 
   // The readers append to the lists; the status is 0 whatever the SP answered.
   NVELKZEV20::TZEVStatusCode GetOrloVoltage();
@@ -65,21 +87,15 @@ class TSPEnviron {
                       NVELKZEV20::SPLibrary* spLib);
 
   // Sends one Kestle command; `reply` holds 255 bytes. The library argument is
-  // there for the callers' sake: the send goes to the collector's own library.
+  // not looked at: the send goes to the collector's own library.
   int sendKestleCommand(unsigned char length, unsigned char commandCode, unsigned char expectedCode,
                         unsigned char checksum, unsigned char* commandData, int commandDataLength,
                         bool acknowledge, bool isRead, unsigned char* reply,
                         NVELKZEV20::SPLibrary* spLib, unsigned char* status);
 
  private:
-  template <typename... Parts>
-  void LogLevel3(const Parts&... parts) const {
-    LogLine(fLogSwitch, 3, parts...);
-  }
-  template <typename... Parts>
-  void LogLevel4(const Parts&... parts) const {
-    LogLine(fLogSwitch, 4, parts...);
-  }
+  [[nodiscard]] bool IsLogging() const { return fLogSwitch != nullptr; }
+  void Log(const std::string& message, int level) const;
 
   NVELKZEV20::TZEVStatusCode ReadOrloSensors(const OrloReader& reader,
                                              std::vector<SensorRecord>& records);
@@ -91,9 +107,10 @@ class TSPEnviron {
   // True when the SP answered with data.
   bool AskKestle(const KestleRequest& request, KestleReply& reply);
   void Export(const char* exporter, const std::vector<SensorRecord>& records);
-  void PublishSensor(const SensorRecord& record, InstanceBuilder& instance) const;
+  void PublishSensor(const SensorRecord& record, const NVELKZEV20::ContextMap& context,
+                     const std::string& systemName) const;
 
-  std::uint16_t fNode = 0;
+  std::uint16_t fNode = 0;                         // the index of the SP that is being read
   [[maybe_unused]] std::uint32_t fSecondWord = 0;  // kept clear
   boost::shared_ptr<NVELKZEV20::ICIMNamespace> fNamespace;
   NVELKZEV20::SPLibrary* fSpLibrary;

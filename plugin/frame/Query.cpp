@@ -1,16 +1,17 @@
 // The collection driver: finds out which service processor the server has and
 // runs the builders and readers that the requested classes call for.
 #include "plugin/environ/TSPEnviron.h"
-#include "plugin/frame/ClassNames.h"
-#include "plugin/frame/PresenceTest.h"
-#include "plugin/frame/SystemName.h"
 #include "plugin/frame/TStrakePluginCallbacks.h"
 #include "plugin/frame/TavitMachines.h"
+#include "plugin/frame/base/ClassNames.h"
+#include "plugin/frame/base/SystemName.h"
 #include "plugin/host/Handle.h"
 #include "plugin/host/TOSSpecific.h"
+#include "plugin/spaccess/DotIdentifier.h"
 
+#include <array>
 #include <exception>
-#include <utility>
+#include <string_view>
 
 namespace strake {
 
@@ -23,30 +24,6 @@ struct TStrakePluginCallbacks::Request {
   std::string_view className;
   std::string_view flagText;
   bool TStrakePluginCallbacks::*flag;
-};
-
-// All flags as a part of a log line.
-struct TStrakePluginCallbacks::FlagsText {
-  const TStrakePluginCallbacks& callbacks;
-
-  static std::size_t Most() {
-    std::size_t most = 0;
-    for (const Request& request : Requests()) {
-      most += request.flagText.size() + MostCharacters(false);
-    }
-    return most;
-  }
-
-  [[nodiscard]] TextRoom WriteTo(TextRoom room) const {
-    for (const Request& request : Requests()) {
-      room = WritePart(room, request.flagText);
-      room = WritePart(room, callbacks.*request.flag);
-    }
-    return room;
-  }
-
-  friend std::size_t MostCharacters(const FlagsText& /*flags*/) { return Most(); }
-  friend TextRoom WritePart(TextRoom room, const FlagsText& flags) { return flags.WriteTo(room); }
 };
 
 struct TStrakePluginCallbacks::Run {
@@ -77,11 +54,47 @@ std::span<const TStrakePluginCallbacks::Request> TStrakePluginCallbacks::Request
   return kRequests;
 }
 
+std::string TStrakePluginCallbacks::FlagsText() const {
+  std::string text;
+  for (const Request& request : Requests()) {
+    AppendPart(text, request.flagText);
+    AppendPart(text, this->*request.flag);
+  }
+  return text;
+}
+
+namespace {
+
+// A dot command and the bytes that it points to, which live as long as it does.
+struct PresenceTest {
+  DotIdentifier identifier = kPresenceTest;
+  unsigned char extraData = 0;
+  dotCmd command{kCommandClass, static_cast<int>(identifier.length), 0, identifier.bytes.data(),
+                 &extraData};
+};
+
+// The one object that this plug-in never releases, one an SP and query. All of
+// it lies on the heap, so that it outlives the module. Kept out of line so that
+// leak reports can tell it by name.
+[[gnu::noinline]] PresenceTest* NewPresenceTestCommand() { return new PresenceTest; }
+
+// Whether an SP is there: dot command 1.1, of which only the result counts.
+bool AnswersPresenceTest(SPLibrary* spLib, unsigned char sp) {
+  // Nobody reads the reply, so nobody clears its room.
+  // NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init)
+  std::array<unsigned char, 4096> reply;
+  int replyLength = 0;
+  return spLib->sendDotCommand(&NewPresenceTestCommand()->command, reply.data(), &replyLength, sp,
+                               static_cast<int>(reply.size()));
+}
+
+}  // namespace
+
 void TStrakePluginCallbacks::Query(boost::shared_ptr<ICIMNamespace> cimNamespace,
                                    const std::vector<boost::shared_ptr<ICIMClass>>& classes) {
   LogLevel3("Strake plugin begin execution.");
   const std::string MTM = ReadMachineType();
-  const std::string systemName = ReadSystemName(fProvider, cimNamespace);
+  const std::string systemName = ReadSystemName<NameGuard::QuestionAndLines>(*this, cimNamespace);
   NoteRequestedClasses(classes);
 
   SPLibrary* const spLib = SPLibrary::GetSplibraryInstance(0);
@@ -108,7 +121,7 @@ std::string TStrakePluginCallbacks::ReadMachineType() const {
   try {
     std::string MTM = TOSSpecific::GetMachineTypeFromID();
     LogLevel3("Obtained MTM.");
-    LogLevel3(MTM);
+    LogLevel3(std::string_view(MTM));
     return MTM;
   } catch (const std::exception& error) {
     LogLevel2("Unable to obtain MTM due to caught exception ", error.what());
@@ -132,7 +145,9 @@ void TStrakePluginCallbacks::NoteRequestedClasses(
       }
     }
   }
-  LogLevel3(FlagsText{*this});
+  if (IsLogging()) {
+    LogLevel3(FlagsText());
+  }
 }
 
 bool TStrakePluginCallbacks::CollectOrlo(const Run& run) {
@@ -237,7 +252,7 @@ bool TStrakePluginCallbacks::IsHeldByManagementServer(const Run& run) const {
     return false;
   }
   LogLevel3("Dorn Library is present on board.");
-  // Hosts expect to be asked for the time here; nobody uses it.
+  // Asked for; nobody uses it.
   static_cast<void>(TOSSpecific::GetLocalTime());
   LogNotice4(
       "Tavit environmental data is not being collected due to the presence of VELK Ostrel.\n"

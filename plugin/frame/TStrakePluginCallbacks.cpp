@@ -1,6 +1,7 @@
 #include "plugin/frame/TStrakePluginCallbacks.h"
 
 #include "plugin/host/Handle.h"
+#include "plugin/spaccess/CommandSenders.h"
 
 namespace strake {
 
@@ -25,9 +26,14 @@ std::string TStrakePluginCallbacks::GetVersion() { return "1.0"; }
 
 std::string TStrakePluginCallbacks::GetFrameworkVersion() { return "1.0"; }
 
-void TStrakePluginCallbacks::Destroy() { DestroyObject(this); }
-
-void TStrakePluginCallbacks::DestroyObject(TStrakePluginCallbacks* object) { delete object; }
+// Hosts may call the slot without an object. This file is compiled so that the
+// test for that stays (see CMakeLists.txt).
+void TStrakePluginCallbacks::Destroy() {
+  IPluginCallbacks* const object = this;
+  if (object != nullptr) {
+    delete object;
+  }
+}
 
 void TStrakePluginCallbacks::Initialize() {
   LogLevel3("Initializing Service Processor Configuration Collector");
@@ -35,6 +41,26 @@ void TStrakePluginCallbacks::Initialize() {
 
 void TStrakePluginCallbacks::Deinitialize() {
   LogLevel3("De-Initializing Service Processor Configuration Collector");
+}
+
+void TStrakePluginCallbacks::Log(const std::string& message, int level) const {
+  LogMessage(fProvider, level, message);
+}
+
+int TStrakePluginCallbacks::sendCommand(unsigned char commandClass, int identifierLength,
+                                        int secondLength, const unsigned char* identifier,
+                                        const unsigned char* extraData, unsigned char* reply,
+                                        int replySize, unsigned char* status,
+                                        NVELKZEV20::SPLibrary* spLib, unsigned char sp) {
+  static constexpr SenderWording kWording = {
+      .entered = "TStrakePluginCallbacks::sendCommand entered.",
+      .sent = "Sent command: ",
+      .completed = "TStrakePluginCallbacks::sendCommand completed.",
+      .namesInstance = true,
+  };
+  return SendDotCommand(fProvider, kWording,
+                        {commandClass, identifierLength, secondLength, identifier, extraData, reply,
+                         replySize, status, spLib, sp});
 }
 
 }  // namespace strake

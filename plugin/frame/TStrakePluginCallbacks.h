@@ -2,8 +2,7 @@
 // logs through, and the classes that the current query wants.
 #pragma once
 
-#include "plugin/config/ServiceProcessor.h"
-#include "plugin/frame/LogLine.h"
+#include "plugin/frame/base/LogLine.h"
 #include "plugin/host/ICIM.h"
 #include "plugin/host/IPluginCallbacks.h"
 #include "plugin/host/TRootObject.h"
@@ -19,7 +18,6 @@
 
 namespace strake {
 
-class InstanceBuilder;
 class TSPEnviron;
 
 class TStrakePluginCallbacks : public NVELKZEV20::IPluginCallbacks,
@@ -42,37 +40,40 @@ class TStrakePluginCallbacks : public NVELKZEV20::IPluginCallbacks,
   void Query(boost::shared_ptr<NVELKZEV20::ICIMNamespace> cimNamespace,
              const std::vector<boost::shared_ptr<NVELKZEV20::ICIMClass>>& classes) override;
 
-  // Deletes a plug-in object; none is no error.
-  static void DestroyObject(TStrakePluginCallbacks* object);
-
   [[nodiscard]] bool IsLogging() const { return fProvider != nullptr; }
 
-  // The logging wrappers: each passes one message, given as its parts, to the
-  // logging core with its level.
+  // The logging wrappers, each with its level: one message, or its parts, which
+  // are put together only while the gate is open.
+  void LogLevel0(std::string message) const { Log(message, 0); }
   template <typename... Parts>
   void LogLevel0(const Parts&... parts) const {
-    LogLine(fProvider, 0, parts...);
+    if (IsLogging()) LogLevel0(MakeText(parts...));
   }
+  void LogLevel1(std::string message) const { Log(message, 1); }
   template <typename... Parts>
   void LogLevel1(const Parts&... parts) const {
-    LogLine(fProvider, 1, parts...);
+    if (IsLogging()) LogLevel1(MakeText(parts...));
   }
+  void LogLevel2(std::string message) const { Log(message, 2); }
   template <typename... Parts>
   void LogLevel2(const Parts&... parts) const {
-    LogLine(fProvider, 2, parts...);
+    if (IsLogging()) LogLevel2(MakeText(parts...));
   }
+  void LogLevel3(std::string message) const { Log(message, 3); }
   template <typename... Parts>
   void LogLevel3(const Parts&... parts) const {
-    LogLine(fProvider, 3, parts...);
+    if (IsLogging()) LogLevel3(MakeText(parts...));
   }
+  void LogLevel4(std::string message) const { Log(message, 4); }
   template <typename... Parts>
   void LogLevel4(const Parts&... parts) const {
-    LogLine(fProvider, 4, parts...);
+    if (IsLogging()) LogLevel4(MakeText(parts...));
   }
   // For what a person must do something about.
+  void LogNotice4(std::string message) const { Log(message, 4); }
   template <typename... Parts>
   void LogNotice4(const Parts&... parts) const {
-    LogLine(fProvider, 4, parts...);
+    if (IsLogging()) LogNotice4(MakeText(parts...));
   }
 
   // Sends one dot command to one SP, with its trail of log lines. Returns the
@@ -88,29 +89,41 @@ class TStrakePluginCallbacks : public NVELKZEV20::IPluginCallbacks,
       NVELKZEV20::SPLibrary* spLib, unsigned char sp) const;
   NVELKZEV20::TZEVStatusCode tcpipcommands(
       boost::shared_ptr<NVELKZEV20::ICIMNamespace> cimNamespace, NVELKZEV20::SPLibrary* spLib,
-      std::string machineType, std::string systemName, unsigned char sp);
+      std::string MTM, std::string systemName, unsigned char sp);
   NVELKZEV20::TZEVStatusCode dialcommands(boost::shared_ptr<NVELKZEV20::ICIMNamespace> cimNamespace,
-                                          NVELKZEV20::SPLibrary* spLib, std::string machineType,
+                                          NVELKZEV20::SPLibrary* spLib, std::string MTM,
                                           std::string systemName, unsigned char sp);
 
-  // The instances of the dial classes, by instance number, counted from 1.
-  NVELKZEV20::TZEVStatusCode getSerialPortData(const ServiceProcessor& sp, unsigned char instance);
-  NVELKZEV20::TZEVStatusCode getDialoutSettings(const ServiceProcessor& sp, unsigned char instance);
-  NVELKZEV20::TZEVStatusCode getDialinSettings(const ServiceProcessor& sp, unsigned char number);
-  NVELKZEV20::TZEVStatusCode getDialOutAlerts(const ServiceProcessor& sp, unsigned char instance);
+  // The instances of the dial classes; `number` is the instance's, from 1.
+  NVELKZEV20::TZEVStatusCode getSerialPortData(
+      boost::shared_ptr<NVELKZEV20::ICIMNamespace> cimNamespace, unsigned char number,
+      NVELKZEV20::SPLibrary* spLib, std::string MTM, std::string systemName, unsigned char sp);
+  NVELKZEV20::TZEVStatusCode getDialoutSettings(
+      boost::shared_ptr<NVELKZEV20::ICIMNamespace> cimNamespace, unsigned char number,
+      NVELKZEV20::SPLibrary* spLib, std::string MTM, std::string systemName, unsigned char sp);
+  NVELKZEV20::TZEVStatusCode getDialinSettings(
+      boost::shared_ptr<NVELKZEV20::ICIMNamespace> cimNamespace, unsigned char number,
+      NVELKZEV20::SPLibrary* spLib, std::string MTM, std::string systemName, unsigned char sp);
+  NVELKZEV20::TZEVStatusCode getDialOutAlerts(
+      boost::shared_ptr<NVELKZEV20::ICIMNamespace> cimNamespace, unsigned char number,
+      NVELKZEV20::SPLibrary* spLib, std::string MTM, std::string systemName, unsigned char sp);
 
   // Fill the instance of network interface `number` (1 or 2).
-  void NetworkInterface(const ServiceProcessor& sp, InstanceBuilder& instance,
-                        unsigned char number);
-  void IndividualDHCPValues(const ServiceProcessor& sp, InstanceBuilder& instance,
-                            unsigned char number);
+  void NetworkInterface(boost::shared_ptr<NVELKZEV20::ICIMNamespace> cimNamespace,
+                        boost::shared_ptr<NVELKZEV20::ICIMInstance> instance, unsigned char number,
+                        NVELKZEV20::SPLibrary* spLib, unsigned char sp);
+  void IndividualDHCPValues(boost::shared_ptr<NVELKZEV20::ICIMNamespace> cimNamespace,
+                            boost::shared_ptr<NVELKZEV20::ICIMInstance> instance,
+                            unsigned char number, NVELKZEV20::SPLibrary* spLib, unsigned char sp);
 
  private:
-  struct FlagsText;
   struct Request;  // a class and the flag that stands for it
   struct Run;      // what one query works with
 
+  void Log(const std::string& message, int level) const;
+
   static std::span<const Request> Requests();
+  [[nodiscard]] std::string FlagsText() const;
   void NoteRequestedClasses(const std::vector<boost::shared_ptr<NVELKZEV20::ICIMClass>>& classes);
   [[nodiscard]] std::string ReadMachineType() const;
   // False: the run ends at once, without its closing line.
@@ -121,8 +134,6 @@ class TStrakePluginCallbacks : public NVELKZEV20::IPluginCallbacks,
   [[nodiscard]] bool IsHeldByManagementServer(const Run& run) const;
   [[nodiscard]] std::optional<std::size_t> MatchTavitMachine(const std::string& MTM) const;
   void ReadTavitSensors(const Run& run, unsigned int kestleType) const;
-
-  void PublishNetworkInterfaces(const ServiceProcessor& sp);
 
   boost::shared_ptr<NVELKZEV20::ICIMNamespace> fReservedHandle;
   std::string fReservedText;

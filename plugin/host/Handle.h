@@ -11,7 +11,7 @@
 
 namespace strake {
 
-// The line that hosts know for an empty handle. Boost's own headers report
+// The line that is reported for an empty handle. Boost's own headers report
 // another line from version to version, so handles are dereferenced here and
 // not through their operators.
 inline constexpr long kEmptyHandleLine = 315;

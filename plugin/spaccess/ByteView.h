@@ -1,9 +1,10 @@
-// A bounds-checked view of reply bytes. Replies are not to be believed: what
-// lies past the end reads as zero, as in the cleared buffer that a short reply
-// leaves behind.
+// A bounds-checked view of reply bytes, and the buffer that it looks at. Replies
+// are not to be believed: what lies past the end reads as zero, as in the cleared
+// buffer that a short reply leaves behind.
 #pragma once
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <span>
@@ -56,5 +57,17 @@ inline std::int32_t Signed(unsigned char byte) { return static_cast<std::int8_t>
 inline ByteView ReceivedBytes(std::span<const unsigned char> buffer, int replyLength) {
   return ByteView(buffer).From(0, static_cast<unsigned int>(replyLength));
 }
+
+// The room for a reply, and the length that came back with it.
+template <std::size_t Size>
+struct ReplyBuffer {
+  std::array<unsigned char, Size> bytes{};
+  int length = 0;
+
+  void Clear() { bytes.fill(0); }
+  // The whole buffer: records are walked in it whatever length was reported.
+  [[nodiscard]] ByteView Whole() const { return ByteView(bytes); }
+  [[nodiscard]] ByteView Received() const { return ReceivedBytes(bytes, length); }
+};
 
 }  // namespace strake

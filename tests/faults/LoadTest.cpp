@@ -4,6 +4,7 @@
 #include "platform/session/HostSession.h"
 #include "platform/session/PluginModule.h"
 #include "plugin/frame/TStrakePluginCallbacks.h"
+#include "plugin/spaccess/DotIdentifier.h"
 #include "tests/support/Allocations.h"
 #include "tests/support/Scenario.h"
 
@@ -79,7 +80,13 @@ TEST(Load, AThousandLoadsAndDetachesLeaveOnlyThePresenceTestCommands) {
     session.Deinitialize();
     session.Detach();
   };
-  ExpectLeft(round, 2, sizeof(dotCmd));
+  // Each command lies with its identifier and its byte of extra data.
+  struct Left {
+    DotIdentifier identifier;
+    unsigned char extraData;
+    alignas(dotCmd) std::array<char, sizeof(dotCmd)> command;
+  };
+  ExpectLeft(round, 2, sizeof(Left));
 }
 
 TEST(Load, ADetachWithoutDestroyLeavesTheObjectAliveAndNothingElse) {

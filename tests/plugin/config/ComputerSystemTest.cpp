@@ -1,5 +1,6 @@
 // The SP itself and its clock.
 #include "platform/session/HostSession.h"
+#include "platform/spdriver/DriverControl.h"
 #include "plugin/frame/ModuleEntry.h"
 #include "plugin/frame/TStrakePluginCallbacks.h"
 #include "tests/support/Scenario.h"
@@ -132,6 +133,60 @@ TEST(ComputerSystem, TheYearIsUnsigned) {
   Scenario scenario = Scenario::Orlo();
   scenario.Answer("4.4.1", Bytes({255, 2, 28, 0, 0, 0, 0})).Run(kComputer);
   EXPECT_EQ(scenario.Record().Properties(1).back(), "SPClock datetime 22550228000000.000000+000");
+}
+
+TEST(ComputerSystem, TheNodeNumberStartsOverInEightBits) {
+  Scenario scenario = Scenario::Orlo(256);
+  scenario.server.sp.count = 0;
+  scenario.Answer("4.4.1", kClock, 255);
+  Recorder record;
+  platform::HostSession session(scenario.server, &record);
+  session.Attach(&StrakeModuleEntry);
+  session.Query(kComputer);  // of no SPs: the plug-in remembers that the class is wanted
+  static_cast<void>(dynamic_cast<TStrakePluginCallbacks&>(session.Plugin())
+                        .CreateVELKSGComputerSystem(session.Namespace(), "SRV1",
+                                                    NVELKZEV20::SPLibrary::GetSplibraryInstance(0),
+                                                    255));
+  EXPECT_EQ(record.Properties(1),
+            (Lines{"CreationClassName string VELKSG_SP_ComputerSystem", "SourceNode uint8 0",
+                   "Name string SRV1:Node0", "SPClock datetime 20100615134530.000000+000"}));
+  EXPECT_EQ(record.Beginning({"dot 2 4.4"}),
+            (Lines{"dot 2 4.4.1 sp 255 size 2048 -> true 7 0A060F630D2D1E",
+                   "dot 2 4.4.2 sp 255 size 2048 -> false 0 "}));
+}
+
+// Counts the commands that are there at each send and when the instance goes out.
+class CommandsAlive : public Recorder {
+ public:
+  void OnDotSend(const platform::DotSend& send) override {
+    Recorder::OnDotSend(send);
+    atSends.push_back(platform::LiveDotCommands());
+  }
+  void OnCommit(unsigned long instance) override {
+    Recorder::OnCommit(instance);
+    atCommit = platform::LiveDotCommands();
+  }
+
+  std::vector<long> atSends;
+  long atCommit = -1;
+};
+
+TEST(ComputerSystem, MakesBothCommandsBeforeItSendsOneAndEndsThemBeforeItCommits) {
+  for (const bool answers : {true, false}) {
+    Scenario scenario = Scenario::Orlo();
+    if (answers) {
+      scenario.Answer("4.4.1", kClock).Answer("4.4.2", Bytes({60, 0}));
+    }
+    CommandsAlive record;
+    platform::HostSession session(scenario.server, &record);
+    session.Attach(&StrakeModuleEntry);
+    const long before = platform::LiveDotCommands();
+    session.Query(kComputer);
+    std::vector<long> expected = {before + 1};  // the presence test's stays
+    expected.insert(expected.end(), answers ? 2U : 1U, before + 3);
+    EXPECT_EQ(record.atSends, expected);
+    EXPECT_EQ(record.atCommit, before + 1);
+  }
 }
 
 TEST(ComputerSystem, TheLastOf255SpsIsNode255) {

@@ -194,7 +194,7 @@ TEST(DhcpValues, ReadingTheSecondInterfaceLeavesTheFourthByteOfAllNineIdentifier
   Scenario scenario = NetworkServer();
   scenario.Run({kInterfaceClass});
   unsigned char place = 0;
-  for (SharedIdentifier& identifier : Identifiers().dhcpValues) {
+  for (DotIdentifier& identifier : Identifiers().dhcpValues) {
     ++place;
     const std::span<const unsigned char> bytes = identifier.Bytes();
     EXPECT_EQ(std::vector<int>(bytes.begin(), bytes.end()),

@@ -39,6 +39,13 @@ class DialBuilders : public testing::Test {
     return Plugin().dialcommands(fSession->Namespace(), library, "9999-AC1", "SRV1", sp).Code();
   }
 
+  // What instance `number` of the first SP reports, read by one reader.
+  template <typename Reader>
+  std::int32_t Read(Reader reader, unsigned char number) {
+    SPLibrary* const library = SPLibrary::GetSplibraryInstance(0);
+    return (Plugin().*reader)(fSession->Namespace(), number, library, "9999-AC1", "SRV1", 0).Code();
+  }
+
   Recorder fRecord;
   std::optional<platform::HostSession> fSession;
 };
@@ -53,22 +60,18 @@ TEST_F(DialBuilders, ReportSuccessOnEveryPath) {
     for (const Classes& classes : {kAllDial, Classes{}}) {
       Want(classes, *scenario);
       EXPECT_EQ(DialCommands(0), 0);
-      const ServiceProcessor sp(fSession->Namespace(), SPLibrary::GetSplibraryInstance(0),
-                                "9999-AC1", "SRV1", 0);
-      EXPECT_EQ(Plugin().getSerialPortData(sp, 1).Code(), 0);
-      EXPECT_EQ(Plugin().getDialoutSettings(sp, 1).Code(), 0);
-      EXPECT_EQ(Plugin().getDialinSettings(sp, 1).Code(), 0);
-      EXPECT_EQ(Plugin().getDialOutAlerts(sp, 1).Code(), 0);
+      EXPECT_EQ(Read(&TStrakePluginCallbacks::getSerialPortData, 1), 0);
+      EXPECT_EQ(Read(&TStrakePluginCallbacks::getDialoutSettings, 1), 0);
+      EXPECT_EQ(Read(&TStrakePluginCallbacks::getDialinSettings, 1), 0);
+      EXPECT_EQ(Read(&TStrakePluginCallbacks::getDialOutAlerts, 1), 0);
     }
   }
 }
 
 TEST_F(DialBuilders, ReadTheInstanceThatTheyAreGiven) {
   Want(kAllDial, Scenario::Orlo());
-  const ServiceProcessor sp(fSession->Namespace(), SPLibrary::GetSplibraryInstance(0), "9999-AC1",
-                            "SRV1", 0);
-  static_cast<void>(Plugin().getSerialPortData(sp, 255));
-  static_cast<void>(Plugin().getDialOutAlerts(sp, 7));
+  Read(&TStrakePluginCallbacks::getSerialPortData, 255);
+  Read(&TStrakePluginCallbacks::getDialOutAlerts, 7);
   EXPECT_EQ(fRecord.Beginning({"log 4 TStrakePluginCallbacks::get", "dot 2 "}),
             (Lines{"log 4 TStrakePluginCallbacks::getSerialPortData entered. Instance #255",
                    "dot 2 4.1.2.255.255 sp 0 size 350 -> false 0 ",

@@ -19,7 +19,7 @@ Numbers LeftBehind() {
   const SharedIdentifiers& identifiers = Identifiers();
   Numbers numbers{};
   std::size_t place = 0;
-  for (const SharedIdentifier* identifier :
+  for (const DotIdentifier* identifier :
        {&identifiers.serialPort, &identifiers.dialout, &identifiers.dialin,
         &identifiers.dialinAuthority, &identifiers.dialinLastLogin, &identifiers.dialOutAlerts}) {
     numbers.at(place) = identifier->bytes[3];

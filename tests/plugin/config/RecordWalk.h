@@ -3,10 +3,9 @@
 
 #include "platform/session/HostSession.h"
 #include "plugin/config/ElementRecord.h"
-#include "plugin/config/InstanceBuilder.h"
-#include "plugin/config/ServiceProcessor.h"
 #include "plugin/frame/ModuleEntry.h"
 #include "plugin/frame/TStrakePluginCallbacks.h"
+#include "plugin/frame/base/InstanceBuilder.h"
 #include "tests/support/Scenario.h"
 
 #include <span>
@@ -18,9 +17,11 @@ class RecordWalk {
  public:
   // Fills one instance of the class, which has to know the fields' names.
   explicit RecordWalk(const char* className)
-      : fSession(fServer, &fRecord), fKind{className, className} {
+      : fSession(fServer, &fRecord),
+        fInstance(InstanceBuilder({className, className},
+                                  {fSession.Namespace(), MakeContext(), "name", "SRV1", 1})
+                      .Instance()) {
     fSession.Attach(&StrakeModuleEntry);
-    fInstance.Create(fProcessor.Number());
   }
 
   // Walks one buffer; the record then holds this walk alone, its instance being
@@ -36,9 +37,7 @@ class RecordWalk {
   platform::ServerDescription fServer;
   Recorder fRecord;
   platform::HostSession fSession;
-  InstanceKind fKind;
-  ServiceProcessor fProcessor{fSession.Namespace(), nullptr, "9999-AC1", "SRV1", 0};
-  InstanceBuilder fInstance{fKind, fProcessor.Identity()};
+  boost::shared_ptr<NVELKZEV20::ICIMInstance> fInstance;
 };
 
 }  // namespace strake::tests

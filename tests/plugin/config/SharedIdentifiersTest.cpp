@@ -7,7 +7,7 @@
 namespace strake::tests {
 namespace {
 
-std::string Dotted(SharedIdentifier& identifier) {
+std::string Dotted(DotIdentifier& identifier) {
   std::string text;
   for (const unsigned char byte : identifier.Bytes()) {
     text += (text.empty() ? "" : ".") + std::to_string(byte);
@@ -29,7 +29,7 @@ void ExpectDialIdentifiersUntouched() {
 void ExpectNetworkIdentifiers(const std::string& interface, const std::string& dhcp) {
   EXPECT_EQ(Dotted(Identifiers().networkInterface), "4.9.1." + interface + ".255");
   int value = 0;
-  for (SharedIdentifier& identifier : Identifiers().dhcpValues) {
+  for (DotIdentifier& identifier : Identifiers().dhcpValues) {
     ++value;
     EXPECT_EQ(Dotted(identifier), "4.9.1." + dhcp + ".16." + std::to_string(value));
   }

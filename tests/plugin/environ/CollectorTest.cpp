@@ -2,6 +2,7 @@
 #include "tests/plugin/environ/OrloCases.h"
 
 #include <gtest/gtest.h>
+#include <stdexcept>
 
 namespace strake::tests {
 namespace {
@@ -28,6 +29,74 @@ TEST(Collector, HoldsAReferenceToTheNamespaceAsLongAsItLives) {
     EXPECT_EQ(session.Namespace().use_count(), before + 1);
   }
   EXPECT_EQ(session.Namespace().use_count(), before);
+}
+
+// A logger that refuses the collector's last line.
+class RefusesTheEnd : public Recorder {
+ public:
+  void OnLog(int level, const std::string& message) override {
+    Recorder::OnLog(level, message);
+    if (message == "TSPEnviron destructor entered.") {
+      throw std::runtime_error("log is full");
+    }
+  }
+};
+
+// Ends a collector that holds records of its own.
+void EndACollector(const platform::HostSession& session) {
+  TSPEnviron collector(session.Namespace(), SPLibrary::GetSplibraryInstance(0), &kLogSwitch);
+  collector.GetOrloVoltage();
+}
+
+Scenario OneVoltage() {
+  Scenario scenario = Scenario::Orlo();
+  scenario.Answer("2.2.1.1", Bytes({0xF4, 0x01}));
+  return scenario;
+}
+
+TEST(Collector, LetsAThrowingLoggerAtItsEndReachItsOwnerAndGoesAllTheSame) {
+  RefusesTheEnd record;
+  const platform::HostSession session(OneVoltage().server, &record);
+  const long before = session.Namespace().use_count();
+  EXPECT_THROW(EndACollector(session), std::runtime_error);
+  EXPECT_EQ(session.Namespace().use_count(), before);
+}
+
+TEST(Collector, LosesItsLastLineWhenAnotherExceptionIsOnItsWay) {
+  RefusesTheEnd record;
+  const platform::HostSession session(OneVoltage().server, &record);
+  const long before = session.Namespace().use_count();
+  try {
+    const TSPEnviron collector(session.Namespace(), SPLibrary::GetSplibraryInstance(0),
+                               &kLogSwitch);
+    throw std::logic_error("the first");
+  } catch (const std::exception& error) {
+    EXPECT_STREQ(error.what(), "the first");
+  }
+  EXPECT_EQ(record.Logs().back(), "4 TSPEnviron destructor entered.");
+  EXPECT_EQ(session.Namespace().use_count(), before);
+}
+
+// Collects while it is unwound.
+struct CollectsAtItsEnd {
+  const platform::HostSession& session;
+
+  explicit CollectsAtItsEnd(const platform::HostSession& host) : session(host) {}
+  CollectsAtItsEnd(const CollectsAtItsEnd&) = delete;
+  CollectsAtItsEnd& operator=(const CollectsAtItsEnd&) = delete;
+  ~CollectsAtItsEnd() { EndACollector(session); }
+};
+
+TEST(Collector, EndsInAHostThatIsUnwindingWithoutEndingTheProcess) {
+  RefusesTheEnd record;
+  const platform::HostSession session(OneVoltage().server, &record);
+  try {
+    const CollectsAtItsEnd host(session);
+    throw std::logic_error("the first");
+  } catch (const std::exception& error) {
+    EXPECT_STREQ(error.what(), "the first");
+  }
+  EXPECT_EQ(record.Logs().back(), "4 TSPEnviron destructor entered.");
 }
 
 TEST(Collector, BeginsWithSixEmptyLists) {

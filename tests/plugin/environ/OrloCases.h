@@ -51,7 +51,7 @@ inline constexpr const OrloCase* kOrloCases[] = {&kOrloVoltageCase, &kOrloTemper
 // An identifier in dot notation, without a trailing point.
 inline std::string Dotted(const OrloSensorEntry& sensor) {
   std::string text;
-  for (const unsigned char byte : sensor.Identifier()) {
+  for (const unsigned char byte : sensor.identifier.Bytes()) {
     text += (text.empty() ? "" : ".") + std::to_string(byte);
   }
   return text;

@@ -75,9 +75,9 @@ TEST(OrloTables, NameSixteenFansWithTwoDigitsEach) {
 TEST(OrloTables, HoldZerosPastAnIdentifiersLength) {
   for (const OrloCase* const orlo : kOrloCases) {
     for (const OrloSensorEntry& sensor : orlo->sensors) {
-      ASSERT_EQ(sensor.identifier.size(), 12U);
-      for (std::size_t i = sensor.identifierLength; i < sensor.identifier.size(); ++i) {
-        EXPECT_EQ(sensor.identifier.at(i), 0) << sensor.name;
+      ASSERT_EQ(sensor.identifier.bytes.size(), 12U);
+      for (std::size_t i = sensor.identifier.length; i < sensor.identifier.bytes.size(); ++i) {
+        EXPECT_EQ(sensor.identifier.bytes.at(i), 0) << sensor.name;
       }
     }
   }

@@ -13,7 +13,7 @@
 namespace strake::tests {
 
 // A recorder that can make one kind of call fail and look around when a line
-// is logged.
+// is logged: what the look throws, the logger throws.
 class BenchRecorder : public Recorder {
  public:
   void Inject(platform::BoundaryCall call, platform::Fault fault) {

@@ -110,10 +110,10 @@ TEST(SensorDecoding, FansByLengthTruncateTowardZeroAndKeepEightBits) {
 
 TEST(SensorDecoding, AFanListIsExpectedInTheLengthsOfItsFamilyOnly) {
   for (int length = 0; length <= 0xFF; ++length) {
-    EXPECT_EQ(IsExpectedFanLength(kKestleFans[0], Low(length)),
+    EXPECT_EQ(IsExpectedFanLength(*kTavitFamilies[0].fans, Low(length)),
               length == 16 || length == 18 || length == 22);
-    EXPECT_EQ(IsExpectedFanLength(kKestleFans[1], Low(length)), length == 15);
-    EXPECT_EQ(IsExpectedFanLength(kKestleFans[2], Low(length)), length == 28);
+    EXPECT_EQ(IsExpectedFanLength(*kTavitFamilies[1].fans, Low(length)), length == 15);
+    EXPECT_EQ(IsExpectedFanLength(*kTavitFamilies[2].fans, Low(length)), length == 28);
   }
 }
 

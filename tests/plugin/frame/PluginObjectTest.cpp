@@ -5,6 +5,7 @@
 #include "plugin/frame/TStrakePluginCallbacks.h"
 #include "tests/support/Scenario.h"
 
+#include <cstring>
 #include <gtest/gtest.h>
 
 namespace strake::tests {
@@ -72,8 +73,18 @@ TEST_F(PluginObject, AttachFollowedByDetachLeavesTheObjectAlive) {
   plugin->Destroy();
 }
 
+// Calls the function in slot 5 itself: C++ knows no virtual call without an object.
 TEST_F(PluginObject, DestroyWithANullObjectDoesNothing) {
-  TStrakePluginCallbacks::DestroyObject(nullptr);
+  ASSERT_EQ(StrakeModuleEntry(1), 1);
+  NVELKZEV20::IPluginCallbacks* const plugin = platform::RegisteredPlugin();
+  using Slot = void (*)(NVELKZEV20::IPluginCallbacks*);
+  Slot const* slots = nullptr;
+  std::memcpy(&slots, plugin, sizeof(slots));
+  const Slot destroy = slots[6];  // the destructor, slot 0, has two entries
+  destroy(nullptr);
+  EXPECT_EQ(plugin->GetDisplayName(), "SP Configuration");
+  // The right slot: AddressSanitizer tells an object that it leaves.
+  destroy(plugin);
 }
 
 TEST_F(PluginObject, TheQueryInterfacesDestructorEndsTheWholeObject) {
@@ -89,6 +100,81 @@ TEST_F(PluginObject, WithoutAProviderNoLineReachesTheLogger) {
   EXPECT_EQ(scenario.Record().Logs(), Lines{});
   // The work is done all the same.
   EXPECT_EQ(scenario.Record().Beginning({"Commit"}), (Lines{"Commit 1"}));
+}
+
+// A part of a line that tells when it is put into one.
+struct Told {
+  int& times;
+
+  friend void AppendPart(std::string& text, const Told& part) {
+    ++part.times;
+    text += 'x';
+  }
+};
+
+// Every wrapper, with one message and with parts.
+void LogThroughEachWrapper(const TStrakePluginCallbacks& plugin, int& times) {
+  const std::string message = "message";
+  plugin.LogLevel0(message);
+  plugin.LogLevel0("part ", Told{times});
+  plugin.LogLevel1(message);
+  plugin.LogLevel1("part ", Told{times});
+  plugin.LogLevel2(message);
+  plugin.LogLevel2("part ", Told{times});
+  plugin.LogLevel3(message);
+  plugin.LogLevel3("part ", Told{times});
+  plugin.LogLevel4(message);
+  plugin.LogLevel4("part ", Told{times});
+  plugin.LogNotice4(message);
+  plugin.LogNotice4("part ", Told{times});
+  plugin.LogLevel0(std::string());
+  plugin.LogLevel4("", std::string());
+}
+
+TEST_F(PluginObject, EachWrapperHasItsLevel) {
+  HostSession session(fServer, &fRecord);
+  session.Attach(&StrakeModuleEntry);
+  int times = 0;
+  LogThroughEachWrapper(dynamic_cast<TStrakePluginCallbacks&>(session.Plugin()), times);
+  EXPECT_EQ(fRecord.Logs(),
+            (Lines{"0 message", "0 part x", "1 message", "1 part x", "2 message", "2 part x",
+                   "3 message", "3 part x", "4 message", "4 part x", "4 message", "4 part x"}));
+  EXPECT_EQ(times, 6);
+}
+
+TEST_F(PluginObject, WithoutAProviderNoLineIsPutTogether) {
+  platform::SetProviderGiven(false);
+  HostSession session(fServer, &fRecord);
+  session.Attach(&StrakeModuleEntry);
+  int times = 0;
+  LogThroughEachWrapper(dynamic_cast<TStrakePluginCallbacks&>(session.Plugin()), times);
+  EXPECT_EQ(fRecord.Logs(), Lines{});
+  EXPECT_EQ(times, 0);
+}
+
+// A logger that calls the object again while it is given a line.
+class CallingAgain : public Recorder {
+ public:
+  NVELKZEV20::IPluginCallbacks* plugin = nullptr;
+  std::string seenAfterwards;
+
+  void OnLog(int level, const std::string& message) override {
+    Recorder::OnLog(level, message);
+    if (message.starts_with("De-")) {
+      plugin->Initialize();
+      seenAfterwards = message;
+    }
+  }
+};
+
+TEST_F(PluginObject, ALoggerThatCallsTheObjectAgainKeepsItsMessage) {
+  CallingAgain record;
+  HostSession session(fServer, &record);
+  session.Attach(&StrakeModuleEntry);
+  record.plugin = &session.Plugin();
+  session.Deinitialize();
+  EXPECT_EQ(record.seenAfterwards, "De-Initializing Service Processor Configuration Collector");
+  EXPECT_EQ(record.Logs().size(), 2U);
 }
 
 TEST_F(PluginObject, AnEmptyMessageDoesNotReachTheLogger) {

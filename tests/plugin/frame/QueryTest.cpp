@@ -136,6 +136,55 @@ TEST(Query, GoesOnWithFallbacksWhenTheHostThrows) {
   EXPECT_EQ(scenario.Record().Properties(1)[2], "Name string Unknown SystemName:Node1");
 }
 
+// A logger that refuses one line.
+class Refuses : public Recorder {
+ public:
+  explicit Refuses(std::string line) : fLine(std::move(line)) {}
+
+  void OnLog(int level, const std::string& message) override {
+    Recorder::OnLog(level, message);
+    if (message == fLine) {
+      throw std::runtime_error("log is full");
+    }
+  }
+
+ private:
+  std::string fLine;
+};
+
+TEST(Query, GuardsTheLinesOnTheMtmAndTheSystemNameToo) {
+  const std::vector<std::pair<std::string, std::string>> cases = {
+      {"Obtained MTM.", "2 Unable to obtain MTM due to caught exception log is full"},
+      {"9999-AC1", "2 Unable to obtain MTM due to caught exception log is full"},
+      {"Obtained SystemName.", "2 Unable to obtain SystemName due to caught exception log is full"},
+      {"SRV1", "2 Unable to obtain SystemName due to caught exception log is full"},
+  };
+  for (const auto& [line, told] : cases) {
+    Refuses record(line);
+    platform::HostSession session(Scenario::Orlo(0).server, &record);
+    session.Attach(&StrakeModuleEntry);
+    session.Query({});
+    const Lines logs = record.Logs();
+    const auto refused = std::find(logs.begin(), logs.end(), "3 " + line);
+    ASSERT_LT(refused + 1, logs.end());
+    EXPECT_EQ(refused[1], told);
+    EXPECT_EQ(logs.back(), "4 TSPEnviron destructor entered.");
+  }
+}
+
+TEST(Query, LetsAThrowingLoggerAtItsEndReachTheHost) {
+  for (const char* const line :
+       {"Strake plugin execution complete.", "TSPEnviron destructor entered."}) {
+    Refuses record(line);
+    platform::HostSession session(Scenario::Orlo(0).server, &record);
+    session.Attach(&StrakeModuleEntry);
+    const long held = session.Namespace().use_count();
+    EXPECT_THROW(session.Query({}), std::runtime_error) << line;
+    EXPECT_EQ(record.Logs().back(), "4 TSPEnviron destructor entered.");
+    EXPECT_EQ(session.Namespace().use_count(), held);
+  }
+}
+
 TEST(Query, EndsAtOnceWhenTheOrloCardDoesNotCommunicate) {
   Scenario scenario = Scenario::Orlo();
   scenario.server.sp.communicates = false;

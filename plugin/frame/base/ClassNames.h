@@ -12,8 +12,7 @@ inline constexpr const char* kDialProtocolEndpoint3 = "VELKSG_ServProc_DialProto
 inline constexpr const char* kDialProtocolEndpoint4 = "VELKSG_ServProc_DialProtocolEndpoint4";
 inline constexpr const char* kNumericSensor = "VELKSG_SP_NumericSensor";
 
-// What the four dial classes carry as their creation class: hosts know them by
-// this common name only.
+// What the instances of all four dial classes carry as their creation class.
 inline constexpr const char* kDialProtocolEndpoint = "VELKSG_ServProc_DialProtocolEndpoint";
 
 }  // namespace strake

@@ -1,8 +1,7 @@
 // Identity and the way an instance is made.
 #include "platform/hostcore/HostControl.h"
 #include "platform/hostcore/Repository.h"
-#include "plugin/config/InstanceBuilder.h"
-#include "plugin/config/ServiceProcessor.h"
+#include "plugin/frame/base/InstanceBuilder.h"
 #include "tests/support/Recorder.h"
 
 #include <gtest/gtest.h>
@@ -22,6 +21,7 @@ class InstanceBuilderTest : public testing::Test {
 
   Recorder fRecord;
   boost::shared_ptr<NVELKZEV20::ICIMNamespace> fNamespace{new platform::Repository};
+  NVELKZEV20::ContextMap fContext = MakeContext();
 };
 
 constexpr IdentityProperty kOrder[] = {
@@ -30,9 +30,9 @@ constexpr IdentityProperty kOrder[] = {
 constexpr InstanceKind kKind = {kDialProtocolEndpoint4, kDialProtocolEndpoint, kOrder};
 
 TEST_F(InstanceBuilderTest, SetsTheIdentityInTheKindsOrderAndCommits) {
-  const ServiceProcessor sp(fNamespace, nullptr, "Unknown MTM", "Unknown SystemName", 2);
-  InstanceBuilder instance(kKind, sp.Identity());
-  instance.Create(sp.Number());
+  const std::string name = "Unknown MTM-Node3";
+  const std::string systemName = "Unknown SystemName";
+  const InstanceBuilder instance(kKind, {fNamespace, fContext, name, systemName, NodeNumber(2)});
   instance.IdentifyAll();
   instance.Commit();
   EXPECT_EQ(
@@ -46,18 +46,35 @@ TEST_F(InstanceBuilderTest, SetsTheIdentityInTheKindsOrderAndCommits) {
              "Commit 1"}));
 }
 
+TEST_F(InstanceBuilderTest, TwoBuildersAtATimeFillTheirOwnInstances) {
+  constexpr IdentityProperty kName[] = {IdentityProperty::Name};
+  const InstanceKind kind = {kDialProtocolEndpoint4, kDialProtocolEndpoint4, kName};
+  const std::string firstName = "first";
+  const std::string secondName = "second";
+  const InstanceBuilder first(kind, {fNamespace, fContext, firstName, firstName, 1});
+  const InstanceBuilder second(kind, {fNamespace, fContext, secondName, secondName, 2});
+  second.IdentifyAll();
+  first.IdentifyAll();
+  second.Commit();
+  first.Commit();
+  EXPECT_EQ(fRecord.Beginning({"Set", "Commit"}),
+            (Lines{"Set 2 Name string second", "Set 1 Name string first", "Commit 2", "Commit 1"}));
+}
+
 TEST_F(InstanceBuilderTest, TheNodeNumberWrapsInEightBits) {
-  const ServiceProcessor sp(fNamespace, nullptr, "MTM", "SYS", 255);
-  EXPECT_EQ(sp.nodeName, "MTM-Node0");
-  EXPECT_EQ(sp.Number(), 0);
+  EXPECT_EQ(NodeNumber(0), 1);
+  EXPECT_EQ(NodeNumber(254), 255);
+  EXPECT_EQ(NodeNumber(255), 0);
 }
 
 TEST_F(InstanceBuilderTest, AnEmptyNamespaceOrClassReachesTheHostsAssertion) {
-  const ServiceProcessor nowhere({}, nullptr, "MTM", "SYS", 0);
-  EXPECT_THROW(InstanceBuilder(kKind, nowhere.Identity()).Create(1), platform::AssertionError);
+  const std::string name = "name";
+  const boost::shared_ptr<NVELKZEV20::ICIMNamespace> nowhere;
+  EXPECT_THROW(InstanceBuilder(kKind, {nowhere, fContext, name, name, 1}),
+               platform::AssertionError);
   constexpr InstanceKind kUnknown = {"CIM_Unknown", "CIM_Unknown"};
-  const ServiceProcessor sp(fNamespace, nullptr, "MTM", "SYS", 0);
-  EXPECT_THROW(InstanceBuilder(kUnknown, sp.Identity()).Create(1), platform::AssertionError);
+  EXPECT_THROW(InstanceBuilder(kUnknown, {fNamespace, fContext, name, name, 1}),
+               platform::AssertionError);
 }
 
 }  // namespace

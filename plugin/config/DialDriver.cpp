@@ -1,11 +1,8 @@
 // The driver of the dial readers: how many instances there are, and in which
 // order they are read.
 #include "plugin/config/DotCommandList.h"
-#include "plugin/config/ServiceProcessor.h"
 #include "plugin/config/SharedIdentifiers.h"
 #include "plugin/frame/TStrakePluginCallbacks.h"
-
-#include <utility>
 
 namespace strake {
 
@@ -19,8 +16,10 @@ namespace {
 // One instance after the other, by the reader that knows them.
 struct DialGroup {
   const char* name;
-  TZEVStatusCode (TStrakePluginCallbacks::*read)(const ServiceProcessor& sp,
-                                                 unsigned char instance);
+  TZEVStatusCode (TStrakePluginCallbacks::*read)(boost::shared_ptr<ICIMNamespace> cimNamespace,
+                                                 unsigned char number, SPLibrary* spLib,
+                                                 std::string MTM, std::string systemName,
+                                                 unsigned char sp);
 };
 
 constexpr DialGroup kDialoutSettings = {"DialoutSettings",
@@ -34,41 +33,51 @@ constexpr DialGroup kDialOutAlerts = {"DialOutAlerts", &TStrakePluginCallbacks::
 constexpr short kSerialPorts = 2;
 constexpr short kAlertSets = 1;
 
-void ReadGroup(TStrakePluginCallbacks& callbacks, const ServiceProcessor& sp,
-               const DialGroup& group, short count, const char* failure = nullptr) {
+// What the driver was given; each reader gets its own copies.
+struct DialRun {
+  TStrakePluginCallbacks& callbacks;
+  const boost::shared_ptr<ICIMNamespace>& cimNamespace;
+  SPLibrary* spLib;
+  const std::string& MTM;
+  const std::string& systemName;
+  unsigned char sp;
+};
+
+void ReadGroup(const DialRun& run, const DialGroup& group, short count,
+               const char* failure = nullptr) {
+  TStrakePluginCallbacks& callbacks = run.callbacks;
   callbacks.LogLevel3(group.name, " instances = ", count);
   if (failure != nullptr && count == -1) {
     callbacks.LogLevel3(failure);
     return;
   }
-  // Instance numbers are one byte on the wire. Drivers report fewer than 255
-  // instances; a count of 255 or more would never be exceeded.
+  // Instance numbers are one byte on the wire. A count of 255 or more is never
+  // exceeded: the numbers start over.
   // NOLINTNEXTLINE(bugprone-too-small-loop-variable)
-  for (unsigned char instance = 1; instance <= count; ++instance) {
-    callbacks.LogLevel3(group.name, " instance #", instance);
-    (callbacks.*group.read)(sp, instance);
+  for (unsigned char number = 1; number <= count; ++number) {
+    callbacks.LogLevel3(group.name, " instance #", number);
+    (callbacks.*group.read)(run.cimNamespace, number, run.spLib, run.MTM, run.systemName, run.sp);
   }
 }
 
 }  // namespace
 
 TZEVStatusCode TStrakePluginCallbacks::dialcommands(boost::shared_ptr<ICIMNamespace> cimNamespace,
-                                                    SPLibrary* spLib, std::string machineType,
+                                                    SPLibrary* spLib, std::string MTM,
                                                     std::string systemName, unsigned char sp) {
   DotCommandList list(*this, spLib);
   // Told only now, behind the list's own line.
   LogLevel4("TStrakePluginCallbacks::dialcommands entered.");
-  const ServiceProcessor processor(std::move(cimNamespace), spLib, std::move(machineType),
-                                   std::move(systemName), sp);
+  const DialRun run = {*this, cimNamespace, spLib, MTM, systemName, sp};
   if (list.IsBuilt()) {
     SharedIdentifiers& identifiers = Identifiers();
-    ReadGroup(*this, processor, kDialoutSettings, list.CountInstances(identifiers.dialout),
+    ReadGroup(run, kDialoutSettings, list.CountInstances(identifiers.dialout),
               "Failed to get componentcmdlist for dialoutsettings.");
-    ReadGroup(*this, processor, kDialinSettings, list.CountInstances(identifiers.dialin),
+    ReadGroup(run, kDialinSettings, list.CountInstances(identifiers.dialin),
               "Failed to get componentcmdlist for dialinsettings.");
   }
-  ReadGroup(*this, processor, kSerialPort, kSerialPorts);
-  ReadGroup(*this, processor, kDialOutAlerts, kAlertSets);
+  ReadGroup(run, kSerialPort, kSerialPorts);
+  ReadGroup(run, kDialOutAlerts, kAlertSets);
   LogLevel4("TStrakePluginCallbacks::dialcommands completed.");
   return TZEVStatusCode(kZEVSuccess);
 }

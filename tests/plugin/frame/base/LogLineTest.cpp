@@ -1,6 +1,6 @@
 // The logging core: one line a call, put together only behind an open gate.
 #include "platform/hostcore/HostControl.h"
-#include "plugin/frame/LogLine.h"
+#include "plugin/frame/base/LogLine.h"
 #include "tests/support/Recorder.h"
 
 #include <gtest/gtest.h>
@@ -17,10 +17,9 @@ constexpr char kOpen = 0;
 struct Told {
   int& times;
 
-  friend std::size_t MostCharacters(const Told& /*part*/) { return 1; }
-  friend TextRoom WritePart(TextRoom room, const Told& part) {
+  friend void AppendPart(std::string& text, const Told& part) {
     ++part.times;
-    return WritePart(room, "x");
+    text += 'x';
   }
 };
 
@@ -60,7 +59,7 @@ TEST_F(LogLineTest, DropsEmptyLines) {
 TEST_F(LogLineTest, BuildsNothingWhileTheGateIsClosed) {
   int times = 0;
   LogLine(nullptr, 3, "line ", Told{times});
-  LogLine(nullptr, 3, std::string("line"));
+  LogMessage(nullptr, 3, "line");
   EXPECT_EQ(times, 0);
   EXPECT_EQ(fRecord.Logs(), Lines{});
   LogLine(&kOpen, 3, "line ", Told{times});

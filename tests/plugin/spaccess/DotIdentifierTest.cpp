@@ -1,5 +1,5 @@
 // Dot commands as people write them.
-#include "plugin/spaccess/DotCommandText.h"
+#include "plugin/spaccess/DotIdentifier.h"
 
 #include <gtest/gtest.h>
 #include <vector>

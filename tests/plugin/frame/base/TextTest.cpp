@@ -1,6 +1,5 @@
-// Texts out of parts: what each part reads as, and that none takes more room
-// than it said.
-#include "plugin/frame/Text.h"
+// Texts out of parts: what each part reads as.
+#include "plugin/frame/base/Text.h"
 
 #include <array>
 #include <cstdint>
@@ -12,26 +11,17 @@
 namespace strake::tests {
 namespace {
 
-// Writes a part into exactly the room that it asks for, with a mark behind it.
-template <typename Part>
-std::string Written(const Part& part) {
-  const std::size_t most = MostCharacters(part);
-  std::string room(most + 1, '#');
-  const TextRoom left = WritePart(std::span(room).first(most), part);
-  EXPECT_EQ(room.back(), '#') << "more than was asked for";
-  return room.substr(0, most - left.size());
-}
-
 template <typename Number>
 void ExpectExtremes() {
   using Limits = std::numeric_limits<Number>;
   for (const Number number : {Limits::min(), Number{0}, Number{1}, Limits::max()}) {
-    EXPECT_EQ(Written(number), std::to_string(number));
+    EXPECT_EQ(MakeText(number), std::to_string(number));
   }
 }
 
-TEST(Text, NumbersOfEveryTypeFitTheirRoomFromTheirLeastToTheirGreatest) {
+TEST(Text, NumbersOfEveryTypeAreDecimalFromTheirLeastToTheirGreatest) {
   ExpectExtremes<signed char>();
+  ExpectExtremes<unsigned char>();
   ExpectExtremes<short>();
   ExpectExtremes<unsigned short>();
   ExpectExtremes<int>();
@@ -43,13 +33,13 @@ TEST(Text, NumbersOfEveryTypeFitTheirRoomFromTheirLeastToTheirGreatest) {
 }
 
 TEST(Text, FlagsAreOneOrZero) {
-  EXPECT_EQ(Written(true), "1");
-  EXPECT_EQ(Written(false), "0");
+  EXPECT_EQ(MakeText(true), "1");
+  EXPECT_EQ(MakeText(false), "0");
 }
 
 TEST(Text, BytesAreUnsignedDecimal) {
   for (int byte = 0; byte <= 255; ++byte) {
-    EXPECT_EQ(Written(static_cast<unsigned char>(byte)), std::to_string(byte));
+    EXPECT_EQ(MakeText(static_cast<unsigned char>(byte)), std::to_string(byte));
   }
 }
 
@@ -58,17 +48,17 @@ TEST(Text, AddressesAreHexadecimalWithoutLeadingZeros) {
   const auto address = [](std::uintptr_t bits) {
     return AddressText{reinterpret_cast<const void*>(bits)};  // NOLINT(performance-no-int-to-ptr)
   };
-  EXPECT_EQ(Written(address(0)), "0x0");
-  EXPECT_EQ(Written(address(0x7ffe10)), "0x7ffe10");
-  EXPECT_EQ(Written(address(std::numeric_limits<std::uintptr_t>::max())), "0xffffffffffffffff");
+  EXPECT_EQ(MakeText(address(0)), "0x0");
+  EXPECT_EQ(MakeText(address(0x7ffe10)), "0x7ffe10");
+  EXPECT_EQ(MakeText(address(std::numeric_limits<std::uintptr_t>::max())), "0xffffffffffffffff");
 }
 
 TEST(Text, ByteListsHaveACharacterBehindEachByte) {
   const std::array<unsigned char, 4> bytes = {0, 9, 10, 255};
-  EXPECT_EQ(Written(ByteListText{.bytes = bytes, .behind = '.'}), "0.9.10.255.");
-  EXPECT_EQ(Written(ByteListText{.bytes = {}, .behind = ' '}), "");
+  EXPECT_EQ(MakeText(ByteListText{.bytes = bytes, .behind = '.'}), "0.9.10.255.");
+  EXPECT_EQ(MakeText(ByteListText{.bytes = {}, .behind = ' '}), "");
   const std::array<unsigned char, 3> longest = {255, 255, 255};
-  EXPECT_EQ(Written(ByteListText{.bytes = longest, .behind = ' '}), "255 255 255 ");
+  EXPECT_EQ(MakeText(ByteListText{.bytes = longest, .behind = ' '}), "255 255 255 ");
 }
 
 TEST(Text, IsMadeOfAnyNumberOfParts) {
