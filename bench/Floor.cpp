@@ -4,6 +4,7 @@
 #include "plugin/host/TCIMSchemaHelper.h"
 #include "plugin/host/TOSSpecific.h"
 #include "plugin/host/TRootObject.h"
+#include "plugin/spaccess/DotIdentifier.h"
 
 #include <algorithm>
 #include <utility>
@@ -59,13 +60,16 @@ void Floor::GetClass(const Call& call, ICIMNamespace& cimNamespace) {
   }
 }
 
-// The room for a reply is part of what is made: it is cleared.
+// The room for a reply is part of what is made: it is cleared if somebody reads
+// it, and nobody does of the presence test.
 template <Arguments How>
 void Floor::SendDot(const Call& call) {
   int length = 0;
   if constexpr (How == Arguments::Made) {
     static constexpr unsigned char kNoExtraData = 0;
-    std::fill_n(fReply.begin(), call.size, static_cast<unsigned char>(0));
+    if (!std::ranges::equal(call.identifier, kPresenceTest.Bytes())) {
+      std::fill_n(fReply.begin(), call.size, static_cast<unsigned char>(0));
+    }
     dotCmd command(call.commandClass, static_cast<int>(call.identifier.size()), 0,
                    call.identifier.data(), &kNoExtraData);
     fLibrary.sendDotCommand(&command, fReply.data(), &length, call.sp, call.size);

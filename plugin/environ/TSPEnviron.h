@@ -44,15 +44,15 @@ class TSPEnviron {
   void LogLevel4(std::string message) const { Log(message, 4); }
   template <typename... Parts>
   void LogLevel2(const Parts&... parts) const {
-    if (IsLogging()) LogLevel2(MakeText(parts...));
+    if (IsLogging()) LogLevel2(MakeLine(parts...));
   }
   template <typename... Parts>
   void LogLevel3(const Parts&... parts) const {
-    if (IsLogging()) LogLevel3(MakeText(parts...));
+    if (IsLogging()) LogLevel3(MakeLine(parts...));
   }
   template <typename... Parts>
   void LogLevel4(const Parts&... parts) const {
-    if (IsLogging()) LogLevel4(MakeText(parts...));
+    if (IsLogging()) LogLevel4(MakeLine(parts...));
   }
 
   // The readers append to the lists; the status is 0 whatever the SP answered.

@@ -5,6 +5,7 @@
 #include "plugin/frame/base/Text.h"
 #include "plugin/host/TRootObject.h"
 
+#include <cstddef>
 #include <string>
 
 namespace strake {
@@ -17,11 +18,21 @@ inline void LogMessage(const void* gate, int level, const std::string& message) 
   }
 }
 
+// A line out of its parts. All but a few lines fit the room that is asked for.
+template <typename... Parts>
+std::string MakeLine(const Parts&... parts) {
+  constexpr std::size_t kRoom = 100;
+  std::string line;
+  line.reserve(kRoom);
+  SetText(line, parts...);
+  return line;
+}
+
 // A line given as its parts. Behind a closed gate nothing is put together.
 template <typename... Parts>
 void LogLine(const void* gate, int level, const Parts&... parts) {
   if (gate != nullptr) {
-    LogMessage(gate, level, MakeText(parts...));
+    LogMessage(gate, level, MakeLine(parts...));
   }
 }
 
