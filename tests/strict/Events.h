@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstddef>
+#include <iosfwd>
 #include <map>
 #include <string>
 #include <vector>
@@ -38,6 +39,8 @@ enum class Call {
   BuildDotCommandList,
   GetComponentdotCmdList,
 };
+
+void PrintTo(Call call, std::ostream* stream);
 
 // Which constructor a value comes from; a copy keeps its original's.
 enum class Made { Empty, FromText, FromCString, FromInt, FromShort, FromByte, FromDateTime };
@@ -87,7 +90,9 @@ struct Event {
   bool gotEmpty = true;      // the handle to fill was empty
   DotArguments dot = {};     // as the command stands at this moment
   KestleArguments kestle = {};
-  Bytes before = {};  // the reply buffer before and after a send
+  bool isStatic = false;   // a message with static storage
+  bool isChanged = false;  // a message that changed while it was being logged
+  Bytes before = {};       // the reply buffer before and after a send
   Bytes after = {};
   int lengthBefore = 0;
   // Alive at this moment:

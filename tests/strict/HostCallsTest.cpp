@@ -63,7 +63,7 @@ TEST_P(EveryClass, SetsPropertiesFromValuesThatLiveOnlyForTheCall) {
   Query();
   for (const Event& event : host.events) {
     const std::size_t alive = event.call == Call::SetProperty ? 1 : 0;
-    ASSERT_EQ(event.otherValues, alive) << static_cast<int>(event.call) << " " << event.text;
+    ASSERT_EQ(event.otherValues, alive) << testing::PrintToString(event.call) << " " << event.text;
     ASSERT_FALSE(event.value.isCopy) << event.text;
   }
   EXPECT_TRUE(LiveValues().empty());

@@ -6,6 +6,11 @@
 
 #include <boost/assert.hpp>
 #include <boost/make_shared.hpp>
+#include <cstdint>
+
+// The program's own data: what the linker puts between these two.
+extern "C" char __data_start;
+extern "C" char _end;
 
 namespace boost {
 
@@ -37,10 +42,21 @@ std::string RecordWithNamespace(Call call, const boost::shared_ptr<ICIMNamespace
   return answer;
 }
 
+bool IsStatic(const void* address) {
+  const auto number = reinterpret_cast<std::uintptr_t>(address);
+  return number >= reinterpret_cast<std::uintptr_t>(&__data_start) &&
+         number < reinterpret_cast<std::uintptr_t>(&_end);
+}
+
 class CoreLogger : public ILogger {
  public:
   void Log(int level, const std::string& message) override {
-    StrictHost::Current().Record({.call = Call::Log, .text = message, .number = level});
+    Event& event =
+        StrictHost::Current().Record({.call = Call::Log,
+                                      .text = message,
+                                      .number = level,
+                                      .isStatic = IsStatic(&message) || IsStatic(message.data())});
+    event.isChanged = message != event.text;
   }
 };
 

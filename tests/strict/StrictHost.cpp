@@ -4,6 +4,8 @@
 #include "plugin/host/TCIMSchemaHelper.h"
 
 #include <boost/make_shared.hpp>
+#include <iterator>
+#include <ostream>
 #include <stdexcept>
 #include <utility>
 
@@ -82,8 +84,43 @@ class RecordedNamespace : public ICIMNamespace {
 
 }  // namespace
 
+void PrintTo(Call call, std::ostream* stream) {
+  // In the order of their declaration.
+  static constexpr const char* kNames[] = {
+      "Log",
+      "GetMachineTypeFromID",
+      "GetLocalTime",
+      "GetSystemName",
+      "GetSystemCreationClassName",
+      "GetName",
+      "GetClass",
+      "CreateInstance",
+      "SetProperty",
+      "Commit",
+      "TCIMDateTime::Set",
+      "TCIMDateTime::ToString",
+      "GetSplibraryInstance",
+      "isDotcommand",
+      "isKestle",
+      "isQmvStop",
+      "isDornlibrary",
+      "checkSPComm",
+      "discoverSPs",
+      "new dotCmd",
+      "delete dotCmd",
+      "sendDotCommand",
+      "new KestleCmd",
+      "delete KestleCmd",
+      "sendKestleCommand",
+      "buildDotCommandList",
+      "getComponentdotCmdList",
+  };
+  static_assert(std::size(kNames) == static_cast<std::size_t>(Call::GetComponentdotCmdList) + 1);
+  *stream << kNames[static_cast<std::size_t>(call)];
+}
+
 StrictHost::StrictHost(Gate gate)
-    : cimNamespace(boost::make_shared<RecordedNamespace>()), fGate(gate) {
+    : cimNamespace(boost::make_shared<RecordedNamespace>()), fGate(gate), fBefore(current) {
   current = this;
   if (StrakeModuleEntry(kProcessAttach) != 1 || plugin == nullptr) {
     throw std::runtime_error("the module did not register an object");
@@ -93,7 +130,7 @@ StrictHost::StrictHost(Gate gate)
 StrictHost::~StrictHost() {
   onCall = nullptr;
   plugin->Destroy();
-  current = nullptr;
+  current = fBefore;
 }
 
 StrictHost& StrictHost::Current() { return *current; }

@@ -1,5 +1,5 @@
 // A host that records: host core, plug-in manager and driver library of its
-// own, made from the declared interfaces alone. One at a time stands behind the
+// own, made from the declared interfaces alone. The newest stands behind the
 // plug-in; it attaches the module when it is made and destroys the plug-in's
 // object when it goes.
 #pragma once
@@ -116,6 +116,7 @@ class StrictHost {
   int fCommands = 0;
   int fInstances = 0;
   Gate fGate;
+  StrictHost* fBefore;  // stands behind the plug-in again when this one goes
 };
 
 // All values of the host that are alive now.
