@@ -1,11 +1,15 @@
 #include "tests/app/Command.h"
 
+#include "tests/support/Places.h"
+
 #include <cstdio>
 #include <cstdlib>
 #include <fcntl.h>
+#include <linux/capability.h>
 #include <memory>
 #include <ostream>
 #include <stdexcept>
+#include <sys/prctl.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <termios.h>
@@ -98,7 +102,19 @@ Command& Command::Mask(mode_t mask) {
   return *this;
 }
 
+Command& Command::AsOrdinaryUser() {
+  fOrdinaryUser = true;
+  return *this;
+}
+
 void Command::Become(int out, int err) const {
+  if (fOrdinaryUser && ::geteuid() == 0) {
+    for (const int privilege : {CAP_DAC_OVERRIDE, CAP_DAC_READ_SEARCH}) {
+      if (::prctl(PR_CAPBSET_DROP, privilege, 0, 0, 0) != 0) {
+        ::_exit(126);
+      }
+    }
+  }
   ::umask(fMask);
   if (fOutput == Output::Closed) {
     ::close(STDOUT_FILENO);
@@ -107,7 +123,7 @@ void Command::Become(int out, int err) const {
   }
   ::dup2(err, STDERR_FILENO);
   std::vector<std::string> words = fWords;
-  words.insert(words.begin(), STRAKE_BINARY_DIR "/bin/strake");
+  words.insert(words.begin(), BuildFolder() + "/bin/strake");
   std::vector<char*> arguments;
   arguments.reserve(words.size() + 1);
   for (std::string& word : words) {
@@ -115,8 +131,8 @@ void Command::Become(int out, int err) const {
   }
   arguments.push_back(nullptr);
   // A sanitizer's notes about the leak that is intended are no part of the output.
-  std::vector<std::string> variables = {
-      "LSAN_OPTIONS=print_suppressions=0:suppressions='" STRAKE_SOURCE_DIR "/tests/lsan.supp'"};
+  std::vector<std::string> variables = {"LSAN_OPTIONS=print_suppressions=0:suppressions='" +
+                                        SourceFolder() + "/tests/lsan.supp'"};
   variables.insert(variables.end(), fEnvironment.begin(), fEnvironment.end());
   std::vector<char*> environment;
   environment.reserve(variables.size() + 1);
@@ -163,7 +179,7 @@ Outcome CollectHostile(std::vector<std::string> words) {
   return Strake(words);
 }
 
-std::string HostileModule() { return STRAKE_BINARY_DIR "/test-modules/hostile.so"; }
-std::string RefusingModule() { return STRAKE_BINARY_DIR "/test-modules/refusing.so"; }
+std::string HostileModule() { return BuildFolder() + "/test-modules/hostile.so"; }
+std::string RefusingModule() { return BuildFolder() + "/test-modules/refusing.so"; }
 
 }  // namespace strake::tests

@@ -26,6 +26,8 @@ class Command {
   Command& StandardOutput(const std::string& file);
   Command& Environment(const std::string& assignment);
   Command& Mask(mode_t mask);
+  // Run by root it has no more rights to files than their modes give.
+  Command& AsOrdinaryUser();
 
   [[nodiscard]] Outcome Run() const;
   // As on a terminal.
@@ -42,6 +44,7 @@ class Command {
   Output fOutput = Output::Read;
   std::string fOutputFile;
   mode_t fMask = 022;
+  bool fOrdinaryUser = false;
 };
 
 Outcome Strake(const std::vector<std::string>& words);

@@ -1,9 +1,10 @@
 // What the command does to files, and how it refuses and fails.
 #include "tests/app/Command.h"
+#include "tests/support/Places.h"
 #include "tests/support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
-#include <unistd.h>
+#include <utility>
 
 namespace strake::tests {
 namespace {
@@ -26,10 +27,13 @@ class CommandFilesTest : public testing::Test {
   }
 
   // "strake collect" with all three outputs.
-  [[nodiscard]] Outcome Collect(std::vector<std::string> words) const {
+  [[nodiscard]] Command Collecting(std::vector<std::string> words) const {
     words.insert(words.begin(), {"collect", "--output", fOutputs[0], "--trace", fOutputs[1],
                                  "--log", fOutputs[2]});
-    return Strake(words);
+    return Command(std::move(words));
+  }
+  [[nodiscard]] Outcome Collect(std::vector<std::string> words) const {
+    return Collecting(std::move(words)).Run();
   }
 
   void ExpectUntouched(const Names& more = {}) const {
@@ -81,12 +85,10 @@ TEST_F(CommandFilesTest, RefusesADescriptionThatCannotBeRead) {
   ExpectEnd(Collect({"--server", absent}), 2,
             "strake: " + absent + ": cannot be read: No such file or directory");
   ExpectEnd(Collect({"--server", fFolder.Path()}), 2, "strake: " + fFolder.Path().string() + ":");
-  if (::geteuid() != 0) {  // root reads everything
-    const std::string closed = fFolder.Write("closed", kServer);
-    fs::permissions(closed, fs::perms::none);
-    ExpectEnd(Collect({"--server", closed}), 2,
-              "strake: " + closed + ": cannot be read:", {"closed"});
-  }
+  const std::string closed = fFolder.Write("closed", kServer);
+  fs::permissions(closed, fs::perms::none);
+  ExpectEnd(Collecting({"--server", closed}).AsOrdinaryUser().Run(), 2,
+            "strake: " + closed + ": cannot be read: Permission denied", {"closed"});
 }
 
 TEST_F(CommandFilesTest, RefusesADescriptionOfAHundredMegabytes) {
@@ -130,7 +132,7 @@ TEST_F(CommandFilesTest, FailsOverAModuleThatCannotBeLoadedAndTouchesNothing) {
   const std::string absent = fFolder / "absent.so";
   ExpectEnd(Collect({"--plugin", absent}), 1, "strake: " + absent + ": there is no such", more);
   ExpectEnd(Collect({"--plugin", text}), 1, "strake: " + text + ": is not a loadable module", more);
-  const std::string library = STRAKE_BINARY_DIR "/lib/libstrake_hostcore.so";
+  const std::string library = BuildFolder() + "/lib/libstrake_hostcore.so";
   ExpectEnd(Collect({"--plugin", library}), 1,
             "strake: " + library + ": the module lacks the entry \"StrakeModuleEntry\"\n", more);
   ExpectEnd(Collect({"--plugin", RefusingModule()}), 1,

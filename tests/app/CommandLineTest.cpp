@@ -3,6 +3,7 @@
 #include "app/CommandLine.h"
 #include "app/Errors.h"
 #include "app/ModulePath.h"
+#include "tests/support/Places.h"
 #include "tests/support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
@@ -151,8 +152,8 @@ TEST(CommandLine, AnswersHelpAndVersionWithText) {
 TEST(BuiltInServers, AreTheFilesByteForByte) {
   ASSERT_EQ(app::BuiltInServers().size(), 2U);
   for (const app::BuiltInServer& server : app::BuiltInServers()) {
-    EXPECT_EQ(server.text, ReadFile(std::string(STRAKE_SOURCE_DIR "/servers/") +
-                                    std::string(server.name) + ".server.json"));
+    EXPECT_EQ(server.text,
+              ReadFile(SourceFolder() + "/servers/" + std::string(server.name) + ".server.json"));
   }
   EXPECT_EQ(app::BuiltInServerNames(), "demo-orlo, demo-tavit");
   EXPECT_EQ(app::FindBuiltInServer("demo"), nullptr);

@@ -6,6 +6,7 @@
 #include "plugin/config/SharedIdentifiers.h"
 #include "plugin/frame/ModuleEntry.h"
 #include "tests/support/Allocations.h"
+#include "tests/support/Places.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -115,7 +116,7 @@ const std::vector<std::vector<std::string>> kAllQueries = {
 }  // namespace
 
 Collection::Collection(const std::string& serverName)
-    : fServer(platform::ReadServerDescription(std::filesystem::path(STRAKE_SOURCE_DIR) / "servers" /
+    : fServer(platform::ReadServerDescription(std::filesystem::path(SourceFolder()) / "servers" /
                                               (serverName + ".server.json"))),
       fQueries(kAllQueries),
       fNextQuery(kAllQueries[fServer.sp.kind == platform::SpKind::Orlo ? 3 : 2]) {

@@ -6,6 +6,7 @@
 #include "plugin/frame/TStrakePluginCallbacks.h"
 #include "plugin/spaccess/DotIdentifier.h"
 #include "tests/support/Allocations.h"
+#include "tests/support/Places.h"
 #include "tests/support/Scenario.h"
 
 #include <array>
@@ -22,7 +23,7 @@ namespace {
 constexpr int kWarmUp = 10;
 constexpr int kRounds = 1000;
 
-const std::filesystem::path kModule = std::filesystem::path(STRAKE_BINARY_DIR) / "lib/strake.so";
+const std::filesystem::path kModule = std::filesystem::path(BuildFolder()) / "lib/strake.so";
 
 // What freed blocks leave in the C library's caches may differ from round to
 // round; it must not grow with them.

@@ -1,6 +1,7 @@
 // Every input of the corpus, once: what the fuzzers start from and what they
 // found before.
 #include "fuzz/Harnesses.h"
+#include "tests/support/Places.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -24,7 +25,7 @@ struct Harness {
 class Corpus : public testing::TestWithParam<Harness> {
  protected:
   static std::vector<fs::path> Files() {
-    const fs::path folder = fs::path(STRAKE_SOURCE_DIR) / "fuzz" / "corpus" / GetParam().name;
+    const fs::path folder = fs::path(tests::SourceFolder()) / "fuzz" / "corpus" / GetParam().name;
     std::vector<fs::path> files;
     for (const fs::directory_entry& entry : fs::directory_iterator(folder)) {
       files.push_back(entry.path());

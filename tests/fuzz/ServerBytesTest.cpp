@@ -1,4 +1,5 @@
 #include "fuzz/ServerBytes.h"
+#include "tests/support/Places.h"
 
 #include <cstdint>
 #include <filesystem>
@@ -62,7 +63,7 @@ ServerCase Answering(const platform::ReplySequence& replies) {
 TEST(ServerBytes, EveryServerOfTheTreeComesBackAsItWas) {
   std::size_t servers = 0;
   for (const auto& entry :
-       std::filesystem::directory_iterator(std::string(STRAKE_SOURCE_DIR) + "/servers")) {
+       std::filesystem::directory_iterator(tests::SourceFolder() + "/servers")) {
     SCOPED_TRACE(entry.path().string());
     const ServerCase original{
         platform::ReadServerDescription(entry), {{"VELKSG_SP_NumericSensor"}}, {}};

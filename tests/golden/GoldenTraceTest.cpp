@@ -9,6 +9,7 @@
 #include "platform/session/HostSession.h"
 #include "plugin/config/SharedIdentifiers.h"
 #include "plugin/frame/ModuleEntry.h"
+#include "tests/support/Places.h"
 #include "tests/support/Scenario.h"
 
 #include <algorithm>
@@ -21,7 +22,7 @@
 namespace strake::tests {
 namespace {
 
-const std::filesystem::path kSource = STRAKE_SOURCE_DIR;
+const std::filesystem::path kSource = SourceFolder();
 
 struct GoldenCase {
   std::string name;

@@ -1,4 +1,5 @@
 #include "platform/server/ServerDescription.h"
+#include "tests/support/StepDown.h"
 
 #include <filesystem>
 #include <fstream>
@@ -52,27 +53,10 @@ TEST_F(DescriptionFileTest, IsNamedWhenItIsADirectory) {
   EXPECT_EQ(RefusalOf(fFolder), fFolder.string() + ": cannot be read: Is a directory");
 }
 
-// Root may read everything, so it steps down for a while.
-class StepDown {
- public:
-  StepDown() : fUser(geteuid()) {
-    if (fUser == 0) {
-      EXPECT_EQ(seteuid(kNobody), 0);
-    }
-  }
-  StepDown(const StepDown&) = delete;
-  StepDown& operator=(const StepDown&) = delete;
-  ~StepDown() { EXPECT_EQ(seteuid(fUser), 0); }
-
- private:
-  static constexpr uid_t kNobody = 65534;
-  uid_t fUser;
-};
-
 TEST_F(DescriptionFileTest, IsNamedWhenItMayNotBeRead) {
   const auto file = Write("secret.json", "{}");
   std::filesystem::permissions(file, std::filesystem::perms::none);
-  const StepDown user;
+  const tests::StepDown user;
   EXPECT_EQ(RefusalOf(file), file.string() + ": cannot be read: Permission denied");
 }
 

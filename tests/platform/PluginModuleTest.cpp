@@ -1,4 +1,5 @@
 #include "platform/session/PluginModule.h"
+#include "tests/support/Places.h"
 
 #include <filesystem>
 #include <fstream>
@@ -46,7 +47,7 @@ TEST_F(PluginModuleTest, SaysThatAFileIsNoModule) {
 }
 
 TEST_F(PluginModuleTest, SaysThatALibraryLacksTheEntry) {
-  const std::filesystem::path file = STRAKE_BINARY_DIR "/lib/libstrake_hostcore.so";
+  const std::filesystem::path file = tests::BuildFolder() + "/lib/libstrake_hostcore.so";
   EXPECT_EQ(RefusalOf(file), file.string() + ": the module lacks the entry \"StrakeModuleEntry\"");
 }
 
