@@ -80,8 +80,8 @@ TEST(ProcessExit, IsNotTooLateToDeinitialize) {
   EXPECT_EXIT(
       {
         lastToGo.host = new StrictHost;
-        Prepare(*lastToGo.host, CaseOf("Dialout"));
-        lastToGo.host->Query({kDialout});
+        Prepare(*lastToGo.host, CaseOf("TavitSensor"));
+        lastToGo.host->Query({kSensor});
         std::exit(4);
       },
       testing::ExitedWithCode(0), "");
