@@ -1,16 +1,14 @@
 #include "app/Collect.h"
 
 #include "app/Errors.h"
-#include "app/LogWriter.h"
 #include "app/ModulePath.h"
 #include "app/QueryPlan.h"
 #include "app/Server.h"
 #include "app/SharedFiles.h"
+#include "app/Trail.h"
 #include "os/CommandFolder.h"
 #include "os/OutputFile.h"
-#include "os/OutputStream.h"
 #include "os/Terminal.h"
-#include "platform/boundary/TraceWriter.h"
 #include "platform/session/HostSession.h"
 #include "platform/session/PluginModule.h"
 #include "report/JsonReport.h"
@@ -19,7 +17,6 @@
 
 #include <exception>
 #include <memory>
-#include <ostream>
 
 namespace strake::app {
 namespace {
@@ -34,49 +31,6 @@ std::vector<ClassNames> QueriesOf(const CollectOptions& options) {
   }
   return queries;
 }
-
-std::unique_ptr<os::OutputFile> Open(const std::optional<std::filesystem::path>& name,
-                                     os::Privacy privacy) {
-  return name ? std::make_unique<os::OutputFile>(*name, privacy) : nullptr;
-}
-
-// What the run leaves beside its report: the trace and the log.
-class Trail {
- public:
-  explicit Trail(const CollectOptions& options)
-      : fTraceFile(Open(options.trace, os::Privacy::Owner)),
-        fLogFile(Open(options.log, os::Privacy::Owner)),
-        fLog(fLogFile.get(), options.logLevel) {
-    if (fTraceFile) {
-      fTraceBuffer = std::make_unique<os::OutputStreamBuffer>(*fTraceFile);
-      fTraceStream = std::make_unique<std::ostream>(fTraceBuffer.get());
-      fTrace = std::make_unique<platform::TraceWriter>(*fTraceStream);
-    }
-  }
-
-  [[nodiscard]] platform::BoundaryObserver* Observer() const { return fTrace.get(); }
-
-  [[nodiscard]] platform::LogSink Sink() {
-    return [this](int level, const std::string& message) { fLog.Write(level, message); };
-  }
-
-  void Complete() {
-    if (fTraceFile) {
-      fTraceFile->Complete();
-    }
-    if (fLogFile) {
-      fLogFile->Complete();
-    }
-  }
-
- private:
-  std::unique_ptr<os::OutputFile> fTraceFile;
-  std::unique_ptr<os::OutputFile> fLogFile;
-  LogWriter fLog;
-  std::unique_ptr<os::OutputStreamBuffer> fTraceBuffer;
-  std::unique_ptr<std::ostream> fTraceStream;
-  std::unique_ptr<platform::TraceWriter> fTrace;
-};
 
 // Runs a step in the plug-in. Its exceptions are turned into the command's own
 // here, while the module is loaded: their types can be the module's.
@@ -137,7 +91,8 @@ void Collect(const CollectOptions& options) {
   // All files are opened before the first query: a run whose results could not
   // be kept does not begin.
   const std::unique_ptr<os::OutputFile> output =
-      Open(options.output, options.showSecrets ? os::Privacy::Owner : os::Privacy::Usual);
+      OpenOutput(GoesToStandardOutput(options) ? std::nullopt : options.output,
+                 options.showSecrets ? os::Privacy::Owner : os::Privacy::Usual);
   Trail trail(options);
 
   platform::HostSession session(server.description, trail.Observer(), trail.Sink());

@@ -1,53 +1,80 @@
 #include "app/SharedFiles.h"
 
 #include "app/Errors.h"
-#include "os/OutputTarget.h"
+#include "os/FileIdentity.h"
 
-#include <initializer_list>
 #include <string>
-#include <utility>
 
 namespace strake::app {
 namespace {
 
+using OptionalFile = std::optional<std::filesystem::path>;
+
 struct NamedFile {
   std::string option;
-  std::filesystem::path file;
+  std::string name;
+  os::FileIdentity identity;
 };
 
-std::vector<NamedFile> Given(
-    std::initializer_list<std::pair<const char*, std::optional<std::filesystem::path>>> options) {
-  std::vector<NamedFile> files;
-  for (const auto& [option, file] : options) {
-    if (file) {
-      files.push_back({option, *file});
-    }
+void AddInput(std::vector<NamedFile>& files, const std::string& option, const OptionalFile& file) {
+  if (file) {
+    files.push_back(
+        {option, file->string(),
+         *file == "-" ? os::IdentityOfDescriptor(os::kStandardInput) : os::IdentityOf(*file)});
   }
-  return files;
+}
+
+void AddOutput(std::vector<NamedFile>& files, const std::string& option, const OptionalFile& file) {
+  if (!file) {
+    return;
+  }
+  files.push_back({option, file->string(), os::IdentityOf(*file)});
+  const std::optional<int> descriptor = files.back().identity.descriptor;
+  if (descriptor && !os::IsOpenForWriting(*descriptor)) {
+    throw UsageError(option + ": " + file->string() + ": descriptor " +
+                     std::to_string(*descriptor) + " is not open for writing");
+  }
 }
 
 void RefuseSame(const NamedFile& one, const NamedFile& other) {
-  if (os::AreSameFile(one.file, other.file)) {
-    throw UsageError(one.option + " and " + other.option + ": both are the file " +
-                     other.file.string());
+  if (one.identity.IsSameAs(other.identity)) {
+    throw UsageError(one.option + " and " + other.option + ": both are the file " + other.name);
+  }
+}
+
+// An output may be a standard descriptor itself, and then goes on where that
+// stands. Opened by its name, the file behind it would be written twice.
+void RefuseBehind(const std::string& what, int descriptor, const NamedFile& output) {
+  if (output.identity.descriptor != descriptor) {
+    RefuseSame({what, "", os::IdentityOfDescriptor(descriptor)}, output);
   }
 }
 
 }  // namespace
 
+bool GoesToStandardOutput(const CollectOptions& options) {
+  return !options.output || os::NamedDescriptor(*options.output) == os::kStandardOutput;
+}
+
 void RefuseSharedFiles(const CollectOptions& options) {
-  std::vector<NamedFile> taken =
-      Given({{"--server", options.server}, {"--plugin", options.plugin}});
-  std::vector<NamedFile> outputs =
-      Given({{"--output", options.output}, {"--trace", options.trace}, {"--log", options.log}});
-  if (!options.output) {
+  std::vector<NamedFile> taken;
+  AddInput(taken, "--server", options.server);
+  AddInput(taken, "--plugin", options.plugin);
+  std::vector<NamedFile> outputs;
+  if (GoesToStandardOutput(options)) {
     // Standard output carries the report and nothing else.
-    taken.push_back({"the report", "/dev/stdout"});
+    taken.push_back({"the report", "", os::IdentityOfDescriptor(os::kStandardOutput)});
+  } else {
+    AddOutput(outputs, "--output", options.output);
   }
+  AddOutput(outputs, "--trace", options.trace);
+  AddOutput(outputs, "--log", options.log);
   for (const NamedFile& output : outputs) {
     for (const NamedFile& other : taken) {
       RefuseSame(other, output);
     }
+    RefuseBehind("standard output", os::kStandardOutput, output);
+    RefuseBehind("standard error", os::kStandardError, output);
     taken.push_back(output);
   }
 }

@@ -4,11 +4,11 @@
 #include "app/CommandLine.h"
 #include "app/Errors.h"
 #include "os/OutputFile.h"
+#include "os/Signals.h"
 #include "os/Terminal.h"
 #include "platform/server/ServerDescription.h"
 #include "text/TextEscape.h"
 
-#include <csignal>
 #include <exception>
 #include <string>
 #include <variant>
@@ -32,8 +32,7 @@ int Fail(const char* text, int status) {
 int Main(int argc, char** argv) {
   try {
     os::OccupyStandardDescriptors();
-    // A reader that went away is a write error like any other.
-    (void)std::signal(SIGPIPE, SIG_IGN);
+    os::PrepareForSignals();
     std::visit(Runner(), ParseCommandLine(argc, argv));
     return kExitDone;
   } catch (const UsageError& error) {

@@ -1,6 +1,5 @@
 #include "os/Terminal.h"
 
-#include <array>
 #include <cstdlib>
 #include <fcntl.h>
 #include <string_view>
@@ -8,19 +7,6 @@
 
 namespace strake::os {
 namespace {
-
-struct StandardDescriptor {
-  int descriptor;
-  int uselessMode;
-};
-
-// Opened the wrong way round, so that its use is still noticed as an error. In
-// this order: open gives the lowest number that is free.
-constexpr std::array<StandardDescriptor, 3> kStandardDescriptors{{
-    {STDIN_FILENO, O_WRONLY},
-    {STDOUT_FILENO, O_RDONLY},
-    {STDERR_FILENO, O_RDONLY},
-}};
 
 std::string_view Variable(const char* name) {
   const char* const value = std::getenv(name);
@@ -35,10 +21,12 @@ bool StandardOutputShowsColour() {
          terminal != "dumb";
 }
 
+// Opened as a mere place in the file system, so that its use is still noticed as
+// an error. In ascending order: open gives the lowest number that is free.
 void OccupyStandardDescriptors() {
-  for (const StandardDescriptor& standard : kStandardDescriptors) {
-    if (::fcntl(standard.descriptor, F_GETFD) < 0) {
-      ::open("/dev/null", standard.uselessMode);
+  for (const int descriptor : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+    if (::fcntl(descriptor, F_GETFD) < 0) {
+      ::open("/dev/null", O_PATH);
     }
   }
 }

@@ -2,6 +2,7 @@
 
 #include "tests/support/Places.h"
 
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <fcntl.h>
@@ -78,6 +79,12 @@ class Terminal {
   int fSlave = -1;
 };
 
+int Wait(pid_t process) {
+  int status = 0;
+  ::waitpid(process, &status, 0);
+  return WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status);
+}
+
 }  // namespace
 
 std::ostream& operator<<(std::ostream& stream, const Outcome& outcome) {
@@ -86,9 +93,30 @@ std::ostream& operator<<(std::ostream& stream, const Outcome& outcome) {
                 << outcome.err;
 }
 
-Command& Command::StandardOutput(const std::string& file) {
-  fOutput = file.empty() ? Output::Closed : Output::File;
-  fOutputFile = file;
+Command& Command::StandardOutput(const std::string& file) { return Writing(STDOUT_FILENO, file); }
+
+Command& Command::NoReader() {
+  fHasReader = false;
+  return *this;
+}
+
+Command& Command::Closed(std::vector<int> descriptors) {
+  fClosed = std::move(descriptors);
+  return *this;
+}
+
+Command& Command::Reading(int descriptor, const std::string& file) {
+  fOpen.push_back({descriptor, file, O_RDONLY});
+  return *this;
+}
+
+Command& Command::Writing(int descriptor, const std::string& file) {
+  fOpen.push_back({descriptor, file, O_WRONLY | O_CREAT});
+  return *this;
+}
+
+Command& Command::Ignoring(int signal) {
+  fIgnored.push_back(signal);
   return *this;
 }
 
@@ -107,6 +135,29 @@ Command& Command::AsOrdinaryUser() {
   return *this;
 }
 
+void Command::ArrangeDescriptors(int out, int err) const {
+  if (fHasReader) {
+    ::dup2(out, STDOUT_FILENO);
+  } else {
+    int ends[2]{};
+    if (::pipe(ends) != 0) {
+      ::_exit(127);
+    }
+    ::close(ends[0]);
+    ::dup2(ends[1], STDOUT_FILENO);
+  }
+  ::dup2(err, STDERR_FILENO);
+  ::close_range(STDERR_FILENO + 1, ~0U, CLOSE_RANGE_CLOEXEC);
+  for (const OpenFile& file : fOpen) {
+    const int descriptor = ::open(file.name.c_str(), file.flags | O_CLOEXEC, 0644);
+    ::dup2(descriptor, file.descriptor);
+    ::fcntl(file.descriptor, F_SETFD, 0);
+  }
+  for (const int descriptor : fClosed) {
+    ::close(descriptor);
+  }
+}
+
 void Command::Become(int out, int err) const {
   if (fOrdinaryUser && ::geteuid() == 0) {
     for (const int privilege : {CAP_DAC_OVERRIDE, CAP_DAC_READ_SEARCH}) {
@@ -116,12 +167,10 @@ void Command::Become(int out, int err) const {
     }
   }
   ::umask(fMask);
-  if (fOutput == Output::Closed) {
-    ::close(STDOUT_FILENO);
-  } else {
-    ::dup2(fOutput == Output::File ? ::open(fOutputFile.c_str(), O_WRONLY) : out, STDOUT_FILENO);
+  ArrangeDescriptors(out, err);
+  for (const int signal : fIgnored) {
+    (void)std::signal(signal, SIG_IGN);
   }
-  ::dup2(err, STDERR_FILENO);
   std::vector<std::string> words = fWords;
   words.insert(words.begin(), BuildFolder() + "/bin/strake");
   std::vector<char*> arguments;
@@ -144,32 +193,48 @@ void Command::Become(int out, int err) const {
   ::_exit(127);
 }
 
-int Command::Wait(pid_t process) {
-  int status = 0;
-  ::waitpid(process, &status, 0);
-  return WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status);
+pid_t Command::Start(int out, int err) const {
+  const pid_t process = ::fork();
+  if (process == 0) {
+    Become(out, err);
+  }
+  return process;
 }
 
 Outcome Command::Run() const {
   const Capture out;
   const Capture err;
-  const pid_t process = ::fork();
-  if (process == 0) {
-    Become(out.Descriptor(), err.Descriptor());
-  }
-  const int status = Wait(process);
+  const int status = Wait(Start(out.Descriptor(), err.Descriptor()));
   return {status, out.Text(), err.Text()};
 }
 
 Outcome Command::RunOnTerminal() const {
   const Terminal out;
   const Capture err;
-  const pid_t process = ::fork();
-  if (process == 0) {
-    Become(out.Descriptor(), err.Descriptor());
-  }
-  const int status = Wait(process);
+  const int status = Wait(Start(out.Descriptor(), err.Descriptor()));
   return {status, out.Text(), err.Text()};
+}
+
+Outcome Command::RunUntil(const std::string& errors, int signal) const {
+  const Capture out;
+  int ends[2]{};
+  if (::pipe2(ends, O_CLOEXEC) != 0) {
+    throw std::runtime_error("no pipe");
+  }
+  const pid_t process = Start(out.Descriptor(), ends[1]);
+  ::close(ends[1]);
+  std::string text;
+  bool isSent = false;
+  for (char byte = 0; ::read(ends[0], &byte, 1) == 1;) {
+    text += byte;
+    if (!isSent && text.ends_with(errors)) {
+      ::kill(process, signal);
+      isSent = true;
+    }
+  }
+  ::close(ends[0]);
+  const int status = Wait(process);
+  return {status, out.Text(), text};
 }
 
 Outcome Strake(const std::vector<std::string>& words) { return Command(words).Run(); }

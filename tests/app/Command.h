@@ -22,8 +22,17 @@ class Command {
  public:
   explicit Command(std::vector<std::string> words) : fWords(std::move(words)) {}
 
-  // A file instead of what the test reads; empty: closed.
+  // A file instead of what the test reads.
   Command& StandardOutput(const std::string& file);
+  // A pipe that nobody reads.
+  Command& NoReader();
+  // Descriptors that are closed when it starts.
+  Command& Closed(std::vector<int> descriptors);
+  // A file that is open when it starts, for reading or, created, for writing.
+  Command& Reading(int descriptor, const std::string& file);
+  Command& Writing(int descriptor, const std::string& file);
+  // A signal that is ignored when it starts.
+  Command& Ignoring(int signal);
   Command& Environment(const std::string& assignment);
   Command& Mask(mode_t mask);
   // Run by root it has no more rights to files than their modes give.
@@ -32,17 +41,26 @@ class Command {
   [[nodiscard]] Outcome Run() const;
   // As on a terminal.
   [[nodiscard]] Outcome RunOnTerminal() const;
+  // Sends the signal when standard error has said so much.
+  [[nodiscard]] Outcome RunUntil(const std::string& errors, int signal) const;
 
  private:
-  enum class Output { Read, File, Closed };
+  struct OpenFile {
+    int descriptor;
+    std::string name;
+    int flags;
+  };
 
   [[noreturn]] void Become(int out, int err) const;
-  [[nodiscard]] static int Wait(pid_t process);
+  void ArrangeDescriptors(int out, int err) const;
+  [[nodiscard]] pid_t Start(int out, int err) const;
 
   std::vector<std::string> fWords;
   std::vector<std::string> fEnvironment;
-  Output fOutput = Output::Read;
-  std::string fOutputFile;
+  bool fHasReader = true;
+  std::vector<int> fClosed;
+  std::vector<OpenFile> fOpen;
+  std::vector<int> fIgnored;
   mode_t fMask = 022;
   bool fOrdinaryUser = false;
 };

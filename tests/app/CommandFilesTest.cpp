@@ -107,25 +107,6 @@ TEST_F(CommandFilesTest, RefusesWrongUsageAndTouchesNothing) {
   ExpectEnd(Strake({}), 2, "strake: A subcommand is required");
 }
 
-TEST_F(CommandFilesTest, RefusesOutputsThatAreOneFileOrAnInput) {
-  const std::string server = fFolder.Write("s", kServer);
-  const auto refusal = [](const std::string& options, const std::string& file) {
-    return "strake: " + options + ": both are the file " + file + "\n";
-  };
-  const std::string file = fFolder / "new";
-  fs::create_symlink("new", fFolder / "link");
-  const Names more = {"s", "link"};
-  ExpectEnd(Strake({"collect", "--trace", file, "--log", fFolder / "link"}), 2,
-            refusal("--trace and --log", fFolder / "link"), more);
-  ExpectEnd(Strake({"collect", "--output", file, "--trace", file}), 2,
-            refusal("--output and --trace", file), more);
-  ExpectEnd(Strake({"collect", "--trace", "/dev/stdout"}), 2,
-            refusal("the report and --trace", "/dev/stdout"), more);
-  ExpectEnd(Strake({"collect", "--server", server, "--output", server}), 2,
-            refusal("--server and --output", server), more);
-  EXPECT_EQ(ReadFile(server), kServer);
-}
-
 TEST_F(CommandFilesTest, FailsOverAModuleThatCannotBeLoadedAndTouchesNothing) {
   const std::string text = fFolder.Write("text.so", "no module");
   const Names more = {"text.so"};
@@ -157,34 +138,6 @@ TEST_F(CommandFilesTest, FailsOverAnOutputThatCannotBeWritten) {
   }
 }
 
-TEST_F(CommandFilesTest, NoticesThatStandardOutputTakesNothing) {
-  const std::string server = fFolder.Write("s", kServer);
-  for (const std::vector<std::string>& words :
-       {std::vector<std::string>{"collect", "--server", server},
-        {"check", server},
-        {"--help"},
-        {"--version"}}) {
-    EXPECT_EQ(
-        Command(words).StandardOutput("/dev/full").Run(),
-        (Outcome{1, "", "strake: cannot write to standard output: No space left on device\n"}));
-    EXPECT_EQ(Command(words).StandardOutput("").Run(),
-              (Outcome{1, "", "strake: cannot write to standard output: Bad file descriptor\n"}));
-  }
-}
-
-TEST_F(CommandFilesTest, DoesNotMistakeAFileForAClosedStandardOutput) {
-  const std::string server = fFolder.Write("s", kServer);
-  EXPECT_EQ(Command({"collect", "--server", server, "--trace", fFolder / "t"})
-                .StandardOutput("")
-                .Run()
-                .status,
-            1);
-  EXPECT_EQ(ReadFile(fFolder / "t").find("strake-report"), std::string::npos);
-  EXPECT_EQ(
-      Command({"collect", "--server", server, "--output", fFolder / "o"}).StandardOutput("").Run(),
-      (Outcome{0, "", ""}));
-}
-
 TEST_F(CommandFilesTest, EndsARunWhoseQueryThrowsAndKeepsItsTrail) {
   struct Case {
     std::string className;
@@ -194,6 +147,7 @@ TEST_F(CommandFilesTest, EndsARunWhoseQueryThrowsAndKeepsItsTrail) {
   const std::vector<Case> cases = {
       {"text", "query 2 ended with an exception: two\\nlines", "two\\u000Alines"},
       {"own", "query 2 ended with an exception: the module's own", "the module's own"},
+      {"memory", "query 2 ended with an exception: std::bad_alloc", "std::bad_alloc"},
       {"number", "query 2 ended with an exception that does not say what it is",
        "unknown exception"},
   };
@@ -211,6 +165,40 @@ TEST_F(CommandFilesTest, EndsARunWhoseQueryThrowsAndKeepsItsTrail) {
     const std::string end = "{\"event\":\"query_end\",\"throws\":\"" + one.traced + "\"}\n";
     EXPECT_EQ(trace.substr(trace.size() - std::min(trace.size(), end.size())), end);
     EXPECT_EQ(fFolder.Names(), (Names{"report", "trace", "log"}));
+  }
+}
+
+TEST_F(CommandFilesTest, EndsARunWhoseModuleFailsBesideItsQueries) {
+  struct Case {
+    std::string step;
+    std::string thrown;
+    std::string message;
+    bool hasTrail;
+  };
+  const std::string nameless = " ended with an exception that does not say what it is";
+  const std::string memory = " ended with an exception: std::bad_alloc";
+  const std::vector<Case> cases = {
+      {"attach", "int", "attaching" + nameless, false},
+      {"attach", "memory", "attaching" + memory, false},
+      {"initialize", "int", "Initialize" + nameless, true},
+      {"initialize", "memory", "Initialize" + memory, true},
+      {"deinitialize", "int", "Deinitialize" + nameless, true},
+      {"deinitialize", "memory", "Deinitialize" + memory, true},
+      {"destroy", "int", "detaching" + nameless, true},
+      {"destroy", "memory", "detaching" + memory, true},
+  };
+  for (const Case& one : cases) {
+    const Outcome outcome =
+        Command({"collect", "--plugin", HostileModule(), "--query", "", "--output", fOutputs[0],
+                 "--trace", fOutputs[1], "--log", fFolder / "new"})
+            .Environment("STRAKE_HOSTILE=" + one.step + " " + one.thrown)
+            .Run();
+    EXPECT_EQ(outcome, (Outcome{1, "", "strake: " + one.message + "\n"}));
+    EXPECT_EQ(ReadFile(fOutputs[0]), "old report");
+    EXPECT_EQ(fs::exists(fFolder / "new"), one.hasTrail);
+    EXPECT_EQ(ReadFile(fOutputs[1]) == "old trace", !one.hasTrail);
+    EXPECT_EQ(fFolder.Write("trace", "old trace"), fOutputs[1]);
+    fs::remove(fFolder / "new");
   }
 }
 
@@ -234,6 +222,9 @@ TEST_F(CommandFilesTest, ClosesToOthersWhatCanHoldSecrets) {
   EXPECT_EQ(ModeOf(fOutputs[0]), 0666U);
   EXPECT_EQ(ModeOf(fOutputs[1]), 0600U);
   EXPECT_EQ(ModeOf(fOutputs[2]), 0600U);
+  EXPECT_EQ(Command(words).Mask(027).Run(), (Outcome{0, "", ""}));
+  EXPECT_EQ(ModeOf(fOutputs[0]), 0666U);  // the one that is there
+  fs::remove(fOutputs[0]);
   EXPECT_EQ(Command(words).Mask(027).Run(), (Outcome{0, "", ""}));
   EXPECT_EQ(ModeOf(fOutputs[0]), 0640U);
   std::vector<std::string> clear = words;

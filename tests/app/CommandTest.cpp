@@ -186,6 +186,8 @@ TEST_F(CommandTest, ColoursHeadingsOnATerminalOnly) {
             (Outcome{0, kSystemTable, ""}));
   EXPECT_EQ(Command(words).Environment("TERM=dumb").RunOnTerminal(),
             (Outcome{0, kSystemTable, ""}));
+  EXPECT_EQ(Command(words).Environment("TERM=").RunOnTerminal(), (Outcome{0, kSystemTable, ""}));
+  EXPECT_EQ(Command(words).RunOnTerminal(), (Outcome{0, kSystemTable, ""}));
   EXPECT_EQ(Command(words).Environment("TERM=xterm").Run(), (Outcome{0, kSystemTable, ""}));
 }
 

@@ -1,11 +1,15 @@
 // A plug-in module for the command's tests: what its query does, the requested
-// class says. A class of the schema gives one instance whose text no terminal
-// should obey.
+// class says; "STRAKE_HOSTILE=STEP int" or "... memory" makes another step throw. A class of the
+// schema gives one instance whose text no terminal should obey.
 #include "plugin/frame/ModuleEntry.h"
 #include "plugin/host/Handle.h"
 #include "plugin/host/TRootObject.h"
 
+#include <csignal>
+#include <cstdlib>
+#include <new>
 #include <stdexcept>
+#include <string>
 
 namespace {
 
@@ -23,6 +27,16 @@ class ModulesOwnError : public std::exception {
   [[nodiscard]] const char* what() const noexcept override { return "the module's own"; }
 };
 
+void FailIfAsked(const std::string& step) {
+  const char* const asked = std::getenv("STRAKE_HOSTILE");
+  if (asked != nullptr && asked == step + " int") {
+    throw 42;
+  }
+  if (asked != nullptr && asked == step + " memory") {
+    throw std::bad_alloc();
+  }
+}
+
 void Publish(const boost::shared_ptr<ICIMNamespace>& cimNamespace, const std::string& className) {
   boost::shared_ptr<ICIMClass> cimClass;
   cimNamespace->GetClass(cimClass, className, {});
@@ -39,9 +53,18 @@ class HostilePlugin : public IPluginCallbacks, public IPluginBasicQueryCallbacks
   std::string GetDisplayName() override { return "hostile"; }
   std::string GetVersion() override { return "1.0"; }
   std::string GetFrameworkVersion() override { return "1.0"; }
-  void Destroy() override { delete this; }
-  void Initialize() override { TRootObject::GetCoreLogger()->Log(1, "hello\nsecond line\x1b"); }
-  void Deinitialize() override { TRootObject::GetCoreLogger()->Log(2, "goodbye"); }
+  void Destroy() override {
+    delete this;
+    FailIfAsked("destroy");
+  }
+  void Initialize() override {
+    TRootObject::GetCoreLogger()->Log(1, "hello\nsecond line\x1b");
+    FailIfAsked("initialize");
+  }
+  void Deinitialize() override {
+    TRootObject::GetCoreLogger()->Log(2, "goodbye");
+    FailIfAsked("deinitialize");
+  }
 
   void Query(boost::shared_ptr<ICIMNamespace> cimNamespace,
              const std::vector<boost::shared_ptr<ICIMClass>>& classes) override {
@@ -61,6 +84,12 @@ class HostilePlugin : public IPluginCallbacks, public IPluginBasicQueryCallbacks
     if (name == "number") {
       throw 42;
     }
+    if (name == "memory") {
+      throw std::bad_alloc();
+    }
+    if (name.starts_with("signal")) {
+      (void)std::raise(std::stoi(name.substr(6)));
+    }
     Publish(cimNamespace, name);
   }
 };
@@ -69,6 +98,7 @@ class HostilePlugin : public IPluginCallbacks, public IPluginBasicQueryCallbacks
 
 extern "C" int StrakeModuleEntry(unsigned int reason) {
   if (reason == strake::kProcessAttach) {
+    FailIfAsked("attach");
     const auto manager =
         boost::dynamic_pointer_cast<TPluginManagerNamespace>(TRootObject::GetPluginManager());
     strake::Deref(manager).RegisterPlugin(new HostilePlugin);

@@ -34,7 +34,7 @@ TEST(OutputFile, ReplacesItsTargetOnlyWhenItIsComplete) {
   OutputFile file(name, Privacy::Usual);
   file.Write("new");
   EXPECT_EQ(ReadFile(name), "old");
-  EXPECT_EQ(folder.Names().size(), 2U);
+  EXPECT_LE(folder.Names().size(), 2U);  // the other one: where files need a name
   file.Complete();
   EXPECT_EQ(ReadFile(name), "new");
   EXPECT_EQ(folder.Names(), Names{"report"});
@@ -108,6 +108,17 @@ TEST(OutputFile, CreatesTheTargetOfALinkThatLeadsNowhere) {
   EXPECT_TRUE(fs::is_symlink(folder / "link"));
 }
 
+TEST(OutputFile, ThatIsNotCompleteLeavesALinkThatLeadsNowhereAsItWas) {
+  const TemporaryFolder folder;
+  fs::create_symlink("absent", folder / "link");
+  {
+    OutputFile file(folder / "link", Privacy::Usual);
+    file.Write("text");
+    EXPECT_FALSE(fs::exists(folder / "absent"));
+  }
+  EXPECT_EQ(folder.Names(), Names{"link"});
+}
+
 TEST(OutputFile, DoesNotFollowACircleOfLinks) {
   const TemporaryFolder folder;
   fs::create_symlink("b", folder / "a");
@@ -169,19 +180,6 @@ TEST(OutputFile, NamedAfterADescriptorGoesOnWhereTheDescriptorStands) {
   EXPECT_EQ(ReadFile(folder / "log"), "before texttext");
   EXPECT_EQ(FailureOf("/dev/fd/" + std::to_string(descriptor)),
             "cannot write /dev/fd/" + std::to_string(descriptor) + ": Bad file descriptor");
-}
-
-TEST(OutputFile, IsTheSameUnderAllItsNames) {
-  const TemporaryFolder folder;
-  fs::create_directory(folder / "deep");
-  const std::string file = folder / "report";
-  fs::create_symlink("report", folder / "link");
-  EXPECT_TRUE(os::AreSameFile(file, folder / "deep/../report"));
-  EXPECT_TRUE(os::AreSameFile(file, folder / "link"));
-  EXPECT_TRUE(os::AreSameFile(folder / "absent/a", folder / "absent/./a"));
-  EXPECT_TRUE(os::AreSameFile("/dev/stdout", "/proc/self/fd/1"));
-  EXPECT_FALSE(os::AreSameFile(file, folder / "report2"));
-  EXPECT_FALSE(os::AreSameFile("/dev/stdout", "/dev/stderr"));
 }
 
 TEST(OutputStream, PassesEverythingToItsFile) {

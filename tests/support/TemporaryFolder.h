@@ -43,6 +43,9 @@ class TemporaryFolder {
     return names;
   }
 
+  // For tests that become another user.
+  void OpenToAll() const { std::filesystem::permissions(fPath, std::filesystem::perms::all); }
+
   [[nodiscard]] const std::filesystem::path& Path() const { return fPath; }
 
  private:
