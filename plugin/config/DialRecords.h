@@ -64,8 +64,7 @@ inline constexpr CodeText kSelectiveAlertCodes[] = {
     {1, "Alert recipient receives all enabled alerts"},
 };
 
-// Passwords and PINs are published as the SP returns them: masking is the
-// business of whoever shows them.
+// Passwords and PINs are published as the SP returns them.
 inline constexpr RecordField kDialoutFields[] = {
     {"DialStatus", FieldForm::Plain, DecodeCode<kDialStatusCodes>},
     {"PhoneNumberLAN", FieldForm::BoundedText, DecodeText},

@@ -26,7 +26,7 @@ std::string TStrakePluginCallbacks::GetVersion() { return "1.0"; }
 
 std::string TStrakePluginCallbacks::GetFrameworkVersion() { return "1.0"; }
 
-// Hosts may call the slot without an object. This file is compiled so that the
+// The slot may be called without an object. This file is compiled so that the
 // test for that stays (see CMakeLists.txt).
 void TStrakePluginCallbacks::Destroy() {
   IPluginCallbacks* const object = this;
