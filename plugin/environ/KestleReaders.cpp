@@ -74,7 +74,7 @@ TZEVStatusCode TSPEnviron::ReadKestleList(const KestleListReader& reader, unsign
 }
 
 void TSPEnviron::DecodeKestleList(const KestleListReader& reader, unsigned int kestleType,
-                                  ByteView reply, std::vector<SensorRecord>& records) {
+                                  ByteView reply, std::vector<SensorRecord>& records) const {
   if (kestleType >= std::size(kTavitFamilies)) {
     LogLevel3("No matching Kestle_Type for ", reader.request.name);
     return;

@@ -49,7 +49,7 @@ struct KestleFanLayout {
 
 // What the machines of one family answer with.
 struct TavitFamily {
-  const char* name;  // as the voltage and temperature messages call it
+  const char* name = nullptr;  // as the voltage and temperature messages call it
   KestleListLayout voltages;
   KestleListLayout temperatures;
   std::optional<KestleFanLayout> fans;  // blades have none of their own

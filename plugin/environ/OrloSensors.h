@@ -8,7 +8,7 @@
 namespace strake {
 
 struct OrloSensorEntry {
-  const char* name;
+  const char* name = nullptr;
   DotIdentifier identifier;
 };
 

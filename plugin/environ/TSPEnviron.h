@@ -44,15 +44,21 @@ class TSPEnviron {
   void LogLevel4(std::string message) const { Log(message, 4); }
   template <typename... Parts>
   void LogLevel2(const Parts&... parts) const {
-    if (IsLogging()) LogLevel2(MakeLine(parts...));
+    if (IsLogging()) {
+      LogLevel2(MakeLine(parts...));
+    }
   }
   template <typename... Parts>
   void LogLevel3(const Parts&... parts) const {
-    if (IsLogging()) LogLevel3(MakeLine(parts...));
+    if (IsLogging()) {
+      LogLevel3(MakeLine(parts...));
+    }
   }
   template <typename... Parts>
   void LogLevel4(const Parts&... parts) const {
-    if (IsLogging()) LogLevel4(MakeLine(parts...));
+    if (IsLogging()) {
+      LogLevel4(MakeLine(parts...));
+    }
   }
 
   // The readers append to the lists; the status is 0 whatever the SP answered.
@@ -102,7 +108,7 @@ class TSPEnviron {
   NVELKZEV20::TZEVStatusCode ReadKestleList(const KestleListReader& reader, unsigned int kestleType,
                                             std::vector<SensorRecord>& records);
   void DecodeKestleList(const KestleListReader& reader, unsigned int kestleType, ByteView reply,
-                        std::vector<SensorRecord>& records);
+                        std::vector<SensorRecord>& records) const;
   void DecodeKestleFans(const KestleFanLayout& layout, ByteView reply);
   // True when the SP answered with data.
   bool AskKestle(const KestleRequest& request, KestleReply& reply);

@@ -47,33 +47,45 @@ class TStrakePluginCallbacks : public NVELKZEV20::IPluginCallbacks,
   void LogLevel0(std::string message) const { Log(message, 0); }
   template <typename... Parts>
   void LogLevel0(const Parts&... parts) const {
-    if (IsLogging()) LogLevel0(MakeLine(parts...));
+    if (IsLogging()) {
+      LogLevel0(MakeLine(parts...));
+    }
   }
   void LogLevel1(std::string message) const { Log(message, 1); }
   template <typename... Parts>
   void LogLevel1(const Parts&... parts) const {
-    if (IsLogging()) LogLevel1(MakeLine(parts...));
+    if (IsLogging()) {
+      LogLevel1(MakeLine(parts...));
+    }
   }
   void LogLevel2(std::string message) const { Log(message, 2); }
   template <typename... Parts>
   void LogLevel2(const Parts&... parts) const {
-    if (IsLogging()) LogLevel2(MakeLine(parts...));
+    if (IsLogging()) {
+      LogLevel2(MakeLine(parts...));
+    }
   }
   void LogLevel3(std::string message) const { Log(message, 3); }
   template <typename... Parts>
   void LogLevel3(const Parts&... parts) const {
-    if (IsLogging()) LogLevel3(MakeLine(parts...));
+    if (IsLogging()) {
+      LogLevel3(MakeLine(parts...));
+    }
   }
   void LogLevel4(std::string message) const { Log(message, 4); }
   template <typename... Parts>
   void LogLevel4(const Parts&... parts) const {
-    if (IsLogging()) LogLevel4(MakeLine(parts...));
+    if (IsLogging()) {
+      LogLevel4(MakeLine(parts...));
+    }
   }
   // For what a person must do something about.
   void LogNotice4(std::string message) const { Log(message, 4); }
   template <typename... Parts>
   void LogNotice4(const Parts&... parts) const {
-    if (IsLogging()) LogNotice4(MakeLine(parts...));
+    if (IsLogging()) {
+      LogNotice4(MakeLine(parts...));
+    }
   }
 
   // Sends one dot command to one SP, with its trail of log lines. Returns the

@@ -20,7 +20,7 @@ inline void AppendPart(std::string& text, std::string_view part) { text.append(p
 template <std::integral Number>
 void AppendNumber(std::string& text, Number number, int base) {
   // Enough for any base from 8 on: a digit for three bits, and a sign.
-  std::array<char, std::numeric_limits<Number>::digits / 3 + 2> digits;
+  std::array<char, std::numeric_limits<Number>::digits / 3 + 2> digits{};
   const auto end = std::to_chars(digits.begin(), digits.end(), number, base).ptr;
   text.append(digits.begin(), end);
 }
