@@ -7,6 +7,7 @@
 #include <fcntl.h>
 #include <malloc.h>
 #include <new>
+#include <string_view>
 #include <unistd.h>
 
 // The program's own data: what the linker puts between these two.
@@ -14,8 +15,11 @@ extern "C" char __data_start;
 extern "C" char _end;
 
 // Memory is wiped when it is given back, so that what is found is in use.
+void* operator new(std::size_t size, const std::nothrow_t& /*tag*/) noexcept {
+  return std::malloc(size == 0 ? 1 : size);
+}
 void* operator new(std::size_t size) {
-  void* const block = std::malloc(size == 0 ? 1 : size);
+  void* const block = operator new(size, std::nothrow);
   if (block == nullptr) throw std::bad_alloc();
   return block;
 }
@@ -76,18 +80,23 @@ void AppendString(Bytes& record, const std::string& text) {
   record.insert(record.end(), text.begin(), text.end());
 }
 
-// Reads a dial-out entry whose strings are all `secret`; true when it was told.
-bool ReadDialout(const std::string& secret) {
+// Reads records whose strings are all `secret`, `forms` telling strings ('s') and
+// numbers apart; true when the string of that name was told.
+bool Read(const char* classCase, std::string_view forms, const char* name,
+          const std::string& secret) {
   StrictHost host;
-  Prepare(host, CaseOf("Dialout"));
-  Bytes record = {1, 0, 1, 2};
-  for (int i = 0; i < 2; ++i) AppendString(record, secret);
-  record.insert(record.end(), {1, 0, 1, 2});
-  for (int i = 0; i < 6; ++i) AppendString(record, secret);
+  Prepare(host, CaseOf(classCase));
+  Bytes record;
+  for (const char form : forms) {
+    if (form == 's') {
+      AppendString(record, secret);
+    } else {
+      record.insert(record.end(), {1, 0, 1, 2});
+    }
+  }
   host.otherReply.bytes = record;
-  host.Query({kDialout});
-  return host.CountLines("PPPPassword = " + secret) != 0 &&
-         host.CountLines("DialoutPassword = " + secret) != 0;
+  host.Query({CaseOf(classCase).className});
+  return host.CountLines(std::string(name) + " = " + secret) != 0;
 }
 
 std::string& KeptText() {
@@ -100,7 +109,10 @@ TEST(ReadSecrets, AreOutOfReachBehindTheQuery) {
   ASSERT_TRUE(memory.IsOpen());
   const std::string secret = MakeSecret();
   ASSERT_FALSE(IsWithinReach(memory, secret));
-  ASSERT_TRUE(ReadDialout(secret));
+  ASSERT_TRUE(Read("Dialout", "nssnssssssn", "PPPPassword", secret));
+  EXPECT_FALSE(IsWithinReach(memory, secret));
+  // The last string of this record is its last value.
+  ASSERT_TRUE(Read("SerialPort", "nnnnsnssnsssssss", "ModemHangupString", secret));
   EXPECT_FALSE(IsWithinReach(memory, secret));
   // What is kept is found.
   KeptText() = secret;
