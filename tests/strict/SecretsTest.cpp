@@ -49,6 +49,12 @@ class OwnMemory {
   ~OwnMemory() { close(fFile); }
   [[nodiscard]] bool IsOpen() const { return fFile != -1; }
 
+  [[nodiscard]] std::uintptr_t Word(std::uintptr_t address) const {
+    std::uintptr_t word = 0;
+    const ssize_t count = pread(fFile, &word, sizeof word, static_cast<off_t>(address));
+    return count == sizeof word ? word : 0;
+  }
+
   // True when `text` stands in the 512 bytes behind `address`.
   [[nodiscard]] bool Holds(std::uintptr_t address, const std::string& text) const {
     char bytes[512];
@@ -66,9 +72,7 @@ bool IsWithinReach(const OwnMemory& memory, const std::string& text) {
   const auto end = reinterpret_cast<std::uintptr_t>(&_end);
   for (auto at = reinterpret_cast<std::uintptr_t>(&__data_start); at + sizeof at <= end;
        at += sizeof at) {
-    std::uintptr_t word = 0;
-    std::memcpy(&word, reinterpret_cast<const void*>(at), sizeof word);
-    if (memory.Holds(at, text) || memory.Holds(word, text)) return true;
+    if (memory.Holds(at, text) || memory.Holds(memory.Word(at), text)) return true;
   }
   return false;
 }
