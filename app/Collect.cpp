@@ -1,11 +1,16 @@
 #include "app/Collect.h"
 
 #include "app/Errors.h"
+#include "app/ForwardingObserver.h"
 #include "app/LogWriter.h"
+#include "app/Messages.h"
 #include "app/ModulePath.h"
+#include "app/NearestName.h"
+#include "app/Progress.h"
 #include "app/QueryPlan.h"
 #include "app/Server.h"
 #include "app/SharedFiles.h"
+#include "cim/Catalogue.h"
 #include "os/CommandFolder.h"
 #include "os/OutputFile.h"
 #include "os/OutputStream.h"
@@ -20,6 +25,7 @@
 #include <exception>
 #include <memory>
 #include <ostream>
+#include <set>
 
 namespace strake::app {
 namespace {
@@ -35,6 +41,31 @@ std::vector<ClassNames> QueriesOf(const CollectOptions& options) {
   return queries;
 }
 
+void WarnOfUnknownClasses(const std::vector<ClassNames>& queries) {
+  std::vector<std::string_view> known;
+  for (const cim::SchemaClass& one : cim::SchemaClasses()) {
+    known.push_back(one.name);
+  }
+  std::set<std::string> told;
+  for (const ClassNames& query : queries) {
+    for (const std::string& name : query) {
+      if (!IsKnownClass(name) && told.insert(name).second) {
+        TellWarning("--query: no class of the schema is called '" + name + "'" +
+                    DidYouMean(name, known));
+      }
+    }
+  }
+}
+
+// Null when there is nothing that could show it, or nobody who wants it.
+std::unique_ptr<Progress> MakeProgress(const CollectOptions& options, std::size_t queries) {
+  if (options.quiet || !os::StandardErrorCanErase()) {
+    return nullptr;
+  }
+  return std::make_unique<Progress>(queries,
+                                    Progress::Means{Progress::Clock::now, os::WriteStandardError});
+}
+
 std::unique_ptr<os::OutputFile> Open(const std::optional<std::filesystem::path>& name,
                                      os::Privacy privacy) {
   return name ? std::make_unique<os::OutputFile>(*name, privacy) : nullptr;
@@ -43,10 +74,10 @@ std::unique_ptr<os::OutputFile> Open(const std::optional<std::filesystem::path>&
 // What the run leaves beside its report: the trace and the log.
 class Trail {
  public:
-  explicit Trail(const CollectOptions& options)
+  Trail(const CollectOptions& options, Progress* progress)
       : fTraceFile(Open(options.trace, os::Privacy::Owner)),
         fLogFile(Open(options.log, os::Privacy::Owner)),
-        fLog(fLogFile.get(), options.logLevel) {
+        fLog(fLogFile.get(), options.logLevel, progress) {
     if (fTraceFile) {
       fTraceBuffer = std::make_unique<os::OutputStreamBuffer>(*fTraceFile);
       fTraceStream = std::make_unique<std::ostream>(fTraceBuffer.get());
@@ -117,9 +148,9 @@ void WriteReport(const report::Report& report, const CollectOptions& options,
     file->Write(text);
     file->Complete();
   }
-  if (isJson) {
+  if (isJson && !options.quiet) {
     for (const cim::EqualKeys& equal : report.equalKeys) {
-      os::WriteStandardError("strake: warning: " + report::EqualKeysWarning(equal) + "\n");
+      TellWarning(report::EqualKeysWarning(equal));
     }
   }
 }
@@ -138,9 +169,14 @@ void Collect(const CollectOptions& options) {
   // be kept does not begin.
   const std::unique_ptr<os::OutputFile> output =
       Open(options.output, options.showSecrets ? os::Privacy::Owner : os::Privacy::Usual);
-  Trail trail(options);
+  const std::unique_ptr<Progress> progress = MakeProgress(options, queries.size());
+  Trail trail(options, progress.get());
+  if (!options.quiet) {
+    WarnOfUnknownClasses(queries);
+  }
+  ForwardingObserver observers({trail.Observer(), progress.get()});
 
-  platform::HostSession session(server.description, trail.Observer(), trail.Sink());
+  platform::HostSession session(server.description, &observers, trail.Sink());
   RunStep("attaching", [&] { session.Attach(module.Entry()); });
   try {
     RunQueries(session, queries);
@@ -149,6 +185,9 @@ void Collect(const CollectOptions& options) {
     throw;
   }
   trail.Complete();
+  if (progress) {
+    progress->Erase();
+  }
 
   report::Report report;
   report.server = server.facts;

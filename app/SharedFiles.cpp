@@ -1,6 +1,7 @@
 #include "app/SharedFiles.h"
 
 #include "app/Errors.h"
+#include "app/Server.h"
 #include "os/OutputTarget.h"
 
 #include <initializer_list>
@@ -36,8 +37,11 @@ void RefuseSame(const NamedFile& one, const NamedFile& other) {
 }  // namespace
 
 void RefuseSharedFiles(const CollectOptions& options) {
-  std::vector<NamedFile> taken =
-      Given({{"--server", options.server}, {"--plugin", options.plugin}});
+  std::optional<std::filesystem::path> server = options.server;
+  if (server == kStandardInput) {
+    server.reset();
+  }
+  std::vector<NamedFile> taken = Given({{"--server", server}, {"--plugin", options.plugin}});
   std::vector<NamedFile> outputs =
       Given({{"--output", options.output}, {"--trace", options.trace}, {"--log", options.log}});
   if (!options.output) {

@@ -10,6 +10,7 @@
 #include <ostream>
 #include <stdexcept>
 #include <sys/prctl.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <termios.h>
@@ -107,6 +108,16 @@ Command& Command::AsOrdinaryUser() {
   return *this;
 }
 
+Command& Command::Reading(int descriptor, const std::string& file) {
+  fRead.emplace_back(descriptor, file);
+  return *this;
+}
+
+Command& Command::AddressSpace(unsigned long bytes) {
+  fAddressSpace = bytes;
+  return *this;
+}
+
 void Command::Become(int out, int err) const {
   if (fOrdinaryUser && ::geteuid() == 0) {
     for (const int privilege : {CAP_DAC_OVERRIDE, CAP_DAC_READ_SEARCH}) {
@@ -116,6 +127,9 @@ void Command::Become(int out, int err) const {
     }
   }
   ::umask(fMask);
+  for (const auto& [descriptor, file] : fRead) {
+    ::dup2(::open(file.c_str(), O_RDONLY), descriptor);
+  }
   if (fOutput == Output::Closed) {
     ::close(STDOUT_FILENO);
   } else {
@@ -140,6 +154,10 @@ void Command::Become(int out, int err) const {
     environment.push_back(variable.data());
   }
   environment.push_back(nullptr);
+  if (fAddressSpace != 0) {
+    const rlimit limit{fAddressSpace, fAddressSpace};
+    ::setrlimit(RLIMIT_AS, &limit);
+  }
   ::execve(arguments.front(), arguments.data(), environment.data());
   ::_exit(127);
 }
@@ -164,6 +182,17 @@ Outcome Command::Run() const {
 Outcome Command::RunOnTerminal() const {
   const Terminal out;
   const Capture err;
+  const pid_t process = ::fork();
+  if (process == 0) {
+    Become(out.Descriptor(), err.Descriptor());
+  }
+  const int status = Wait(process);
+  return {status, out.Text(), err.Text()};
+}
+
+Outcome Command::RunWithErrorsOnTerminal() const {
+  const Capture out;
+  const Terminal err;
   const pid_t process = ::fork();
   if (process == 0) {
     Become(out.Descriptor(), err.Descriptor());

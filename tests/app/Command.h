@@ -28,10 +28,16 @@ class Command {
   Command& Mask(mode_t mask);
   // Run by root it has no more rights to files than their modes give.
   Command& AsOrdinaryUser();
+  // A file that is open when it starts, for reading.
+  Command& Reading(int descriptor, const std::string& file);
+  // The most memory that it may map.
+  Command& AddressSpace(unsigned long bytes);
 
   [[nodiscard]] Outcome Run() const;
   // As on a terminal.
   [[nodiscard]] Outcome RunOnTerminal() const;
+  // Standard error alone is a terminal.
+  [[nodiscard]] Outcome RunWithErrorsOnTerminal() const;
 
  private:
   enum class Output { Read, File, Closed };
@@ -45,6 +51,8 @@ class Command {
   std::string fOutputFile;
   mode_t fMask = 022;
   bool fOrdinaryUser = false;
+  std::vector<std::pair<int, std::string>> fRead;
+  unsigned long fAddressSpace = 0;  // 0: as much as there is
 };
 
 Outcome Strake(const std::vector<std::string>& words);
