@@ -2,10 +2,8 @@
 
 namespace strake::app {
 
-using platform::BoundaryObserver;
-
-ForwardingObserver::ForwardingObserver(std::initializer_list<BoundaryObserver*> observers) {
-  for (BoundaryObserver* const observer : observers) {
+ForwardingObserver::ForwardingObserver(const std::vector<platform::BoundaryObserver*>& observers) {
+  for (platform::BoundaryObserver* const observer : observers) {
     if (observer != nullptr) {
       fObservers.push_back(observer);
     }
@@ -14,7 +12,7 @@ ForwardingObserver::ForwardingObserver(std::initializer_list<BoundaryObserver*> 
 
 platform::Fault ForwardingObserver::BeforeCall(platform::BoundaryCall call) {
   platform::Fault fault = platform::Fault::None;
-  for (BoundaryObserver* const observer : fObservers) {
+  for (platform::BoundaryObserver* const observer : fObservers) {
     const platform::Fault wanted = observer->BeforeCall(call);
     fault = wanted == platform::Fault::None ? fault : wanted;
   }

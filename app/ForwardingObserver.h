@@ -3,7 +3,6 @@
 
 #include "platform/boundary/BoundaryObserver.h"
 
-#include <initializer_list>
 #include <string>
 #include <vector>
 
@@ -12,7 +11,7 @@ namespace strake::app {
 class ForwardingObserver : public platform::BoundaryObserver {
  public:
   // They must outlive this one; null ones are left out.
-  explicit ForwardingObserver(std::initializer_list<platform::BoundaryObserver*> observers);
+  explicit ForwardingObserver(const std::vector<platform::BoundaryObserver*>& observers);
 
   // The last fault that any of them wants.
   platform::Fault BeforeCall(platform::BoundaryCall call) override;

@@ -37,7 +37,7 @@ Server ReadServer(const std::filesystem::path& file) {
   const bool isStandardInput = file == kStandardInput;
   const std::string name = isStandardInput ? "standard input" : file.string();
   try {
-    return isStandardInput ? Named(name, platform::ReadServerDescription(*stdin, name))
+    return isStandardInput ? Named(name, platform::ReadServerDescription(stdin, name))
                            : Named(file.filename().string(), platform::ReadServerDescription(file));
   } catch (const std::bad_alloc&) {
     throw RunError(name + ": there is not enough memory to read it");

@@ -22,15 +22,15 @@ struct Closer {
 
 // At most one byte more than a description may have, so that a device that
 // never ends and a huge file cost no more than the largest description.
-std::string ReadBytes(std::FILE& file, const std::string& name) {
+std::string ReadBytes(std::FILE* file, const std::string& name) {
   std::string text;
   constexpr std::size_t kChunk = std::size_t{64} * 1024;
   while (text.size() <= kMostDescriptionBytes) {
     const std::size_t filled = text.size();
     text.resize(filled + kChunk);
-    const std::size_t count = std::fread(&text.at(filled), 1, kChunk, &file);
+    const std::size_t count = std::fread(&text.at(filled), 1, kChunk, file);
     text.resize(filled + count);
-    if (std::ferror(&file) != 0) {
+    if (std::ferror(file) != 0) {
       Refuse(name, errno);
     }
     if (count == 0) {
@@ -47,10 +47,10 @@ ServerDescription ReadServerDescription(const std::filesystem::path& file) {
   if (stream == nullptr) {
     Refuse(file.string(), errno);
   }
-  return ReadServerDescription(*stream, file.string());
+  return ReadServerDescription(stream.get(), file.string());
 }
 
-ServerDescription ReadServerDescription(std::FILE& stream, const std::string& source) {
+ServerDescription ReadServerDescription(std::FILE* stream, const std::string& source) {
   return ParseServerDescription(ReadBytes(stream, source), source);
 }
 

@@ -23,11 +23,13 @@ using nlohmann::json;
 // and a line feed takes eight bytes there.
 class Characters {
  public:
+  // NOLINTBEGIN(readability-identifier-naming): as the library looks for them
   using value_type = char;
   using difference_type = std::ptrdiff_t;
   using pointer = const char*;
   using reference = char;
   using iterator_category = std::input_iterator_tag;
+  // NOLINTEND(readability-identifier-naming)
 
   Characters(std::string_view text, std::size_t place) : fText(text), fPlace(place) {}
 

@@ -82,6 +82,6 @@ inline constexpr std::size_t kMostDescriptionValues = 400'000;
 // Throws DescriptionError; `source` names the text in its message.
 ServerDescription ParseServerDescription(std::string_view text, const std::string& source);
 ServerDescription ReadServerDescription(const std::filesystem::path& file);
-ServerDescription ReadServerDescription(std::FILE& stream, const std::string& source);
+ServerDescription ReadServerDescription(std::FILE* stream, const std::string& source);
 
 }  // namespace strake::platform

@@ -67,7 +67,7 @@ TEST_F(DescriptionFileTest, IsReadFromAStreamUnderTheNameThatItIsGiven) {
   const auto read = [](const std::filesystem::path& name, const char* mode) {
     const std::unique_ptr<std::FILE, int (*)(std::FILE*)> stream(std::fopen(name.c_str(), mode),
                                                                  std::fclose);
-    return ReadServerDescription(*stream, "the stream");
+    return ReadServerDescription(stream.get(), "the stream");
   };
   EXPECT_EQ(read(file, "r").sp.kind, SpKind::Tavit);
   const auto refusal = [&read](const std::filesystem::path& name, const char* mode) {
