@@ -1,9 +1,11 @@
 // The tables of what the plug-in asks for, held against what it asks for.
 #include "app/AskedCommands.h"
 #include "tests/app/Command.h"
+#include "tests/support/Places.h"
 #include "tests/support/TemporaryFolder.h"
 #include "text/DotNotation.h"
 
+#include <functional>
 #include <gtest/gtest.h>
 #include <set>
 #include <sstream>
@@ -34,7 +36,7 @@ std::set<std::string> TracedValues(const std::string& demo, const std::string& w
 }
 
 platform::SpDescription DemoOrlo() {
-  return platform::ReadServerDescription(STRAKE_SOURCE_DIR "/servers/demo-orlo.server.json").sp;
+  return platform::ReadServerDescription(SourceFolder() + "/servers/demo-orlo.server.json").sp;
 }
 
 std::string DotNotation(const Identifier& identifier) {

@@ -1,6 +1,7 @@
 // The sensors of docs/records.md are those of the code.
 #include "plugin/environ/KestleSensors.h"
 #include "plugin/environ/OrloSensors.h"
+#include "tests/support/Places.h"
 #include "tests/support/TemporaryFolder.h"
 #include "text/DotNotation.h"
 
@@ -37,7 +38,7 @@ Row Cells(const std::string& line) {
 
 // The rows below the heading that begins with this cell.
 Table TableOf(const std::string& heading) {
-  std::istringstream lines(ReadFile(STRAKE_SOURCE_DIR "/docs/records.md"));
+  std::istringstream lines(ReadFile(SourceFolder() + "/docs/records.md"));
   std::string line;
   while (std::getline(lines, line) && !line.starts_with("| " + heading + " |")) {
   }
