@@ -65,7 +65,7 @@ Identifier Bytes(std::string_view dotNotation) {
 
 bool IsSensor(const Identifier& identifier) {
   const auto isOne = [&identifier](const OrloSensorEntry& sensor) {
-    return std::ranges::equal(sensor.Identifier(), identifier, {}, {},
+    return std::ranges::equal(sensor.identifier.Bytes(), identifier, {}, {},
                               [](char byte) { return static_cast<unsigned char>(byte); });
   };
   return std::ranges::any_of(kOrloVoltages, isOne) ||

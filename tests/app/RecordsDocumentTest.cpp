@@ -53,7 +53,7 @@ Table TableOf(const std::string& heading) {
 Table OrloTable(std::span<const OrloSensorEntry> sensors) {
   Table rows;
   for (const OrloSensorEntry& sensor : sensors) {
-    rows.push_back({sensor.name, text::DotNotation(sensor.Identifier())});
+    rows.push_back({sensor.name, text::DotNotation(sensor.identifier.Bytes())});
   }
   return rows;
 }
