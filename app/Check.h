@@ -1,13 +1,13 @@
-// `strake check`: is a server description fine?
+// `strake check`: are these server descriptions fine?
 #pragma once
 
 #include "app/CommandLine.h"
 
-#include <string>
-
 namespace strake::app {
 
-// One line that says what the file describes. Throws platform::DescriptionError.
-std::string CheckDescription(const CheckOptions& options);
+// Tells of every file on standard output what it describes, and what of it
+// nothing will ask for; of a file that is refused on standard error. Gives the
+// exit status. Throws RunError.
+int Check(const CheckOptions& options);
 
 }  // namespace strake::app

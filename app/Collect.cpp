@@ -1,11 +1,16 @@
 #include "app/Collect.h"
 
 #include "app/Errors.h"
+#include "app/ForwardingObserver.h"
+#include "app/Messages.h"
 #include "app/ModulePath.h"
+#include "app/NearestName.h"
+#include "app/Progress.h"
 #include "app/QueryPlan.h"
 #include "app/Server.h"
 #include "app/SharedFiles.h"
 #include "app/Trail.h"
+#include "cim/Catalogue.h"
 #include "os/CommandFolder.h"
 #include "os/OutputFile.h"
 #include "os/Terminal.h"
@@ -17,6 +22,7 @@
 
 #include <exception>
 #include <memory>
+#include <set>
 
 namespace strake::app {
 namespace {
@@ -30,6 +36,31 @@ std::vector<ClassNames> QueriesOf(const CollectOptions& options) {
     queries.push_back(SplitClassList(list));
   }
   return queries;
+}
+
+void WarnOfUnknownClasses(const std::vector<ClassNames>& queries) {
+  std::vector<std::string_view> known;
+  for (const cim::SchemaClass& one : cim::SchemaClasses()) {
+    known.push_back(one.name);
+  }
+  std::set<std::string> told;
+  for (const ClassNames& query : queries) {
+    for (const std::string& name : query) {
+      if (!IsKnownClass(name) && told.insert(name).second) {
+        TellWarning("--query: no class of the schema is called '" + name + "'" +
+                    DidYouMean(name, known));
+      }
+    }
+  }
+}
+
+// Null when there is nothing that could show it, or nobody who wants it.
+std::unique_ptr<Progress> MakeProgress(const CollectOptions& options, std::size_t queries) {
+  if (options.quiet || !os::StandardErrorCanErase()) {
+    return nullptr;
+  }
+  return std::make_unique<Progress>(queries,
+                                    Progress::Means{Progress::Clock::now, os::WriteStandardError});
 }
 
 // Runs a step in the plug-in. Its exceptions are turned into the command's own
@@ -71,9 +102,9 @@ void WriteReport(const report::Report& report, const CollectOptions& options,
     file->Write(text);
     file->Complete();
   }
-  if (isJson) {
+  if (isJson && !options.quiet) {
     for (const cim::EqualKeys& equal : report.equalKeys) {
-      os::WriteStandardError("strake: warning: " + report::EqualKeysWarning(equal) + "\n");
+      TellWarning(report::EqualKeysWarning(equal));
     }
   }
 }
@@ -93,9 +124,14 @@ void Collect(const CollectOptions& options) {
   const std::unique_ptr<os::OutputFile> output =
       OpenOutput(GoesToStandardOutput(options) ? std::nullopt : options.output,
                  options.showSecrets ? os::Privacy::Owner : os::Privacy::Usual);
-  Trail trail(options);
+  const std::unique_ptr<Progress> progress = MakeProgress(options, queries.size());
+  Trail trail(options, progress.get());
+  if (!options.quiet) {
+    WarnOfUnknownClasses(queries);
+  }
+  ForwardingObserver observers({trail.Observer(), progress.get()});
 
-  platform::HostSession session(server.description, trail.Observer(), trail.Sink());
+  platform::HostSession session(server.description, &observers, trail.Sink());
   RunStep("attaching", [&] { session.Attach(module.Entry()); });
   try {
     RunQueries(session, queries);
@@ -104,6 +140,9 @@ void Collect(const CollectOptions& options) {
     throw;
   }
   trail.Complete();
+  if (progress) {
+    progress->Erase();
+  }
 
   report::Report report;
   report.server = server.facts;

@@ -2,6 +2,7 @@
 
 #include "app/BuiltInServers.h"
 #include "app/Errors.h"
+#include "app/NearestName.h"
 #include "app/QueryPlan.h"
 
 #include <CLI/CLI.hpp>
@@ -14,6 +15,8 @@ namespace {
 
 constexpr int kHighestLogLevel = 4;
 
+constexpr const char* kStandardOutput = "/dev/stdout";
+
 constexpr const char* kExamples = R"(Examples:
   strake collect                        the demonstration server, as a table
   strake collect --demo demo-tavit      the other demonstration server
@@ -21,9 +24,12 @@ constexpr const char* kExamples = R"(Examples:
   strake collect --format json --output report.json --trace run.trace
   strake check rack7.server.json        is this server description fine?
 
-'strake collect --help' and 'strake check --help' say more.)";
+'strake help collect' and 'strake help check' say more.)";
 
-constexpr const char* kCollectExamples = R"(Examples:
+constexpr const char* kCollectExamples =
+    R"(Where a file is asked for, - is standard input or output.
+
+Examples:
   strake collect
   strake collect --class VELKSG_SP_ComputerSystem --class VELKSG_SP_NumericSensor
   strake collect --query VELKSG_SP_ComputerSystem,VELKSG_SP_NumericSensor --query ""
@@ -34,10 +40,16 @@ Exit status: 0 the queries ran, 1 the run failed, 2 wrong usage or a refused inp
 Traces and logs hold what the service processors said, passwords included; they
 are created with mode 0600.)";
 
-constexpr const char* kCheckExamples = R"(Example:
-  strake check rack7.server.json
+constexpr const char* kCheckExamples =
+    R"(Every file gets a line, and a further one for each thing in it that nothing
+will ask for; - is standard input.
 
-Exit status: 0 the description is fine, 2 it is refused.)";
+Examples:
+  strake check rack7.server.json
+  strake check servers/*.server.json
+
+Exit status: 0 all descriptions are fine, 2 one is refused, 1 the check itself
+failed.)";
 
 // The value as it was typed: converted, "{}" and the empty text would be none.
 using Take = std::function<void(const std::string&)>;
@@ -79,22 +91,29 @@ std::string RefuseLogLevel(const std::string& level) {
   return isLevel ? "" : "'" + level + "' is no level, expected 0 to 4";
 }
 
-CLI::Option* AddFile(CLI::App& app, const std::string& name, const std::string& text,
-                     std::optional<std::filesystem::path>& file) {
+CLI::Option* AddInputFile(CLI::App& app, const std::string& name, const std::string& text,
+                          std::optional<std::filesystem::path>& file) {
   return AddValue(app, name, "FILE", text, [&file](const std::string& value) { file = value; })
       ->check(RefuseEmptyName);
 }
 
+void AddOutputFile(CLI::App& app, const std::string& name, const std::string& text,
+                   std::optional<std::filesystem::path>& file) {
+  AddValue(app, name, "FILE", text, [&file](const std::string& value) {
+    file = value == "-" ? kStandardOutput : value;
+  })->check(RefuseEmptyName);
+}
+
 void AddInput(CLI::App& app, CollectOptions& options) {
   CLI::Option* const server =
-      AddFile(app, "--server", "The server description (*.server.json)", options.server);
+      AddInputFile(app, "--server", "The server description (*.server.json)", options.server);
   AddValue(app, "--demo", "NAME",
            "A built-in demonstration server: " + BuiltInServerNames() + "; default: demo-orlo",
            [&options](const std::string& value) { options.demo = value; })
       ->check(RefuseUnknownDemo)
       ->excludes(server);
-  AddFile(app, "--plugin", "The plug-in module; default: strake.so near the command",
-          options.plugin);
+  AddInputFile(app, "--plugin", "The plug-in module; default: strake.so near the command",
+               options.plugin);
 }
 
 void AddQueries(CLI::App& app, CollectOptions& options) {
@@ -117,15 +136,23 @@ void AddOutput(CLI::App& app, CollectOptions& options) {
              options.format = value == "json" ? ReportFormat::Json : ReportFormat::Table;
            })
       ->check(RefuseUnknownFormat);
-  AddFile(app, "--output", "Where the report goes; default: standard output", options.output);
-  AddFile(app, "--trace", "Where to record what crosses the plug-in's boundary", options.trace);
-  AddFile(app, "--log", "Where log lines go; default: standard error", options.log);
+  AddValue(app, "--output", "FILE", "Where the report goes; default: standard output",
+           [&options](const std::string& value) {
+             if (value != "-") {
+               options.output = value;
+             }
+           })
+      ->check(RefuseEmptyName);
+  AddOutputFile(app, "--trace", "Where to record what crosses the plug-in's boundary",
+                options.trace);
+  AddOutputFile(app, "--log", "Where log lines go; default: standard error", options.log);
   AddValue(app, "--log-level", "N",
-           "Log lines up to this level, 0 to 4; default: 2, or 4 with --log",
+           "Log lines up to this level, 0 to 4; default: 1, or 4 with --log",
            [&options](const std::string& value) { options.logLevel = value[0] - '0'; })
       ->check(RefuseLogLevel);
   app.add_flag("--show-secrets", options.showSecrets,
                "Report passwords, PINs and community names in clear");
+  app.add_flag("--quiet", options.quiet, "No progress on a terminal, no warnings");
 }
 
 // CLI11 takes "--name=" for an option whose value follows. It is an empty value.
@@ -144,6 +171,52 @@ std::vector<std::string> Words(int argc, const char* const* argv) {
   return words;
 }
 
+std::string DidYouMeanOption(const std::string& word, const CLI::App& app) {
+  std::vector<std::string> options;
+  for (const CLI::Option* const option : app.get_options()) {
+    options.push_back(option->get_name());
+  }
+  const std::vector<std::string_view> names(options.begin(), options.end());
+  return DidYouMean(word, names);
+}
+
+std::string DidYouMeanCommand(const std::string& word, const CLI::App& app) {
+  std::vector<std::string_view> names;
+  for (const CLI::App* const command : app.get_subcommands({})) {
+    names.emplace_back(command->get_name());
+  }
+  return DidYouMean(word, names);
+}
+
+// What is wrong with a word that nothing took.
+std::string RefusalOfWord(const std::string& word, const CLI::App& app) {
+  if (word.size() > 1 && word.front() == '-') {
+    const std::string option = word.substr(0, word.find('='));
+    return "there is no option '" + option + "'" + DidYouMeanOption(option, app);
+  }
+  if (app.get_parent() == nullptr) {
+    return "there is no subcommand '" + word + "'" + DidYouMeanCommand(word, app);
+  }
+  return "nothing takes the word '" + word + "'";
+}
+
+[[noreturn]] void Refuse(const CLI::App& app, const CLI::ParseError& error) {
+  const std::vector<CLI::App*> given = app.get_subcommands();
+  // A word that stands before the subcommand is not the subcommand's.
+  const CLI::App& place = given.empty() || app.remaining_size() != 0 ? app : *given.back();
+  const std::vector<std::string> words = place.remaining();
+  std::string refusal = error.what();
+  const bool isForLackOfWords = dynamic_cast<const CLI::ExtrasError*>(&error) != nullptr ||
+                                dynamic_cast<const CLI::RequiredError*>(&error) != nullptr;
+  if (!words.empty() && isForLackOfWords) {
+    refusal = RefusalOfWord(words.front(), place);
+  } else if (given.empty()) {
+    refusal = "a subcommand was expected: collect, check, help or version";
+  }
+  throw UsageError(refusal + " (see strake" + (&place == &app ? "" : " " + place.get_name()) +
+                   " --help)");
+}
+
 // Gives a text when one was asked for instead of work.
 std::optional<TextAnswer> Parse(CLI::App& app, std::vector<std::string> words) {
   std::reverse(words.begin(), words.end());  // as CLI11 takes them
@@ -154,18 +227,33 @@ std::optional<TextAnswer> Parse(CLI::App& app, std::vector<std::string> words) {
   } catch (const CLI::CallForVersion& version) {
     return TextAnswer{std::string(version.what()) + "\n"};
   } catch (const CLI::ParseError& error) {
-    throw UsageError(std::string(error.what()) + " (see strake --help)");
+    Refuse(app, error);
   }
   return std::nullopt;
+}
+
+// "strake help [SUBCOMMAND]".
+TextAnswer Help(CLI::App& app, const std::string& subject) {
+  app.clear();  // else it gives the help of the subcommand `help`
+  if (subject.empty()) {
+    return {app.help()};
+  }
+  for (const CLI::App* const command : app.get_subcommands({})) {
+    if (command->get_name() == subject) {
+      return {command->help(app.get_name())};
+    }
+  }
+  throw UsageError("there is no subcommand '" + subject + "'" + DidYouMeanCommand(subject, app) +
+                   " (see strake --help)");
 }
 
 }  // namespace
 
 CommandLine ParseCommandLine(int argc, const char* const* argv) {
+  constexpr const char* kVersion = "strake " STRAKE_VERSION;
   CLI::App app("Collects what a server's service processors say about themselves.", "strake");
-  app.set_version_flag("--version", "strake " STRAKE_VERSION);
+  app.set_version_flag("--version", kVersion);
   app.require_subcommand(1);
-  app.footer(kExamples);
 
   CollectOptions collect;
   CLI::App& collectCommand = *app.add_subcommand("collect", "Query the plug-in, print a report");
@@ -175,15 +263,30 @@ CommandLine ParseCommandLine(int argc, const char* const* argv) {
   AddOutput(collectCommand, collect);
 
   CheckOptions check;
-  CLI::App& checkCommand = *app.add_subcommand("check", "Check a server description");
+  CLI::App& checkCommand = *app.add_subcommand("check", "Check server descriptions");
   checkCommand.footer(kCheckExamples);
-  AddValue(checkCommand, "file", "FILE", "The server description (*.server.json)",
-           [&check](const std::string& value) { check.file = value; })
+  AddValue(checkCommand, "file", "FILE", "Server descriptions (*.server.json)",
+           [&check](const std::string& value) { check.files.emplace_back(value); })
       ->required()
+      ->expected(1, CLI::detail::expected_max_vector_size)
+      ->allow_extra_args()
       ->check(RefuseEmptyName);
+
+  std::string subject;
+  CLI::App& helpCommand = *app.add_subcommand("help", "Say how strake or a subcommand is used");
+  AddValue(helpCommand, "subcommand", "SUBCOMMAND", "collect or check",
+           [&subject](const std::string& value) { subject = value; });
+  CLI::App& versionCommand = *app.add_subcommand("version", "Say which version this is");
+  app.footer(kExamples);  // a subcommand that is added later would have it too
 
   if (std::optional<TextAnswer> answer = Parse(app, Words(argc, argv))) {
     return *std::move(answer);
+  }
+  if (helpCommand.parsed()) {
+    return Help(app, subject);
+  }
+  if (versionCommand.parsed()) {
+    return TextAnswer{std::string(kVersion) + "\n"};
   }
   if (checkCommand.parsed()) {
     return check;

@@ -12,21 +12,22 @@ namespace strake::app {
 enum class ReportFormat { Table, Json };
 
 struct CollectOptions {
-  std::optional<std::filesystem::path> server;  // empty: the built-in server `demo`
+  std::optional<std::filesystem::path> server;  // "-": standard input; none: the server `demo`
   std::string demo = "demo-orlo";
   std::vector<std::string> classes;  // known ones; empty: all eight
   std::vector<std::string> queries;  // class lists; not empty: they replace the classes
   ReportFormat format = ReportFormat::Table;
-  std::optional<std::filesystem::path> output;
+  std::optional<std::filesystem::path> output;  // none: standard output
   std::optional<std::filesystem::path> trace;
   std::optional<std::filesystem::path> log;
-  int logLevel = 2;
+  int logLevel = 1;
   bool showSecrets = false;
+  bool quiet = false;  // no progress, no warnings
   std::optional<std::filesystem::path> plugin;
 };
 
 struct CheckOptions {
-  std::filesystem::path file;
+  std::vector<std::filesystem::path> files;  // "-": standard input
 };
 
 // Help or version: a text for standard output, nothing else.

@@ -16,6 +16,9 @@ void LogWriter::Write(int level, const std::string& message) {
   if (fFile != nullptr) {
     fFile->Write(line);
   } else {
+    if (fProgress != nullptr) {
+      fProgress->Erase();
+    }
     os::WriteStandardError(line);
   }
 }

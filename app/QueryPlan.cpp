@@ -25,6 +25,16 @@ constexpr std::array<PlannedClass, 8> kClasses{{
 
 constexpr std::size_t kQueries = kClasses.back().query + 1;
 
+// Without those before and behind it.
+std::string_view WithoutBlanks(std::string_view text) {
+  constexpr std::string_view kBlanks = " \t";
+  const std::size_t begin = text.find_first_not_of(kBlanks);
+  if (begin == std::string_view::npos) {
+    return {};
+  }
+  return text.substr(begin, text.find_last_not_of(kBlanks) + 1 - begin);
+}
+
 }  // namespace
 
 bool IsKnownClass(std::string_view name) {
@@ -61,15 +71,15 @@ std::vector<ClassNames> PlanQueries(const ClassNames& wanted) {
 
 ClassNames SplitClassList(std::string_view list) {
   ClassNames names;
-  if (list.empty()) {
+  if (WithoutBlanks(list).empty()) {
     return names;
   }
   for (std::size_t comma = list.find(','); comma != std::string_view::npos;
        comma = list.find(',')) {
-    names.emplace_back(list.substr(0, comma));
+    names.emplace_back(WithoutBlanks(list.substr(0, comma)));
     list.remove_prefix(comma + 1);
   }
-  names.emplace_back(list);
+  names.emplace_back(WithoutBlanks(list));
   return names;
 }
 

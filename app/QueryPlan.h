@@ -20,7 +20,8 @@ std::string KnownClasses();
 // all wants all eight. The names are known ones.
 std::vector<ClassNames> PlanQueries(const ClassNames& wanted);
 
-// "A,B" gives A and B, "" nothing; names are taken as they stand.
+// "A, B" gives A and B, "" nothing; but for the blanks around them, names are
+// taken as they stand.
 ClassNames SplitClassList(std::string_view list);
 
 }  // namespace strake::app

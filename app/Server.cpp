@@ -1,7 +1,10 @@
 #include "app/Server.h"
 
 #include "app/BuiltInServers.h"
+#include "app/Errors.h"
 
+#include <cstdio>
+#include <new>
 #include <utility>
 
 namespace strake::app {
@@ -31,7 +34,14 @@ std::string_view KindName(platform::SpKind kind) {
 }
 
 Server ReadServer(const std::filesystem::path& file) {
-  return Named(file.filename().string(), platform::ReadServerDescription(file));
+  const bool isStandardInput = file == kStandardInput;
+  const std::string name = isStandardInput ? "standard input" : file.string();
+  try {
+    return isStandardInput ? Named(name, platform::ReadServerDescription(stdin, name))
+                           : Named(file.filename().string(), platform::ReadServerDescription(file));
+  } catch (const std::bad_alloc&) {
+    throw RunError(name + ": there is not enough memory to read it");
+  }
 }
 
 Server LoadBuiltInServer(const std::string& name) {

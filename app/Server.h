@@ -18,7 +18,10 @@ struct Server {
 // As the server description names it: "orlo".
 std::string_view KindName(platform::SpKind kind);
 
-// Both throw platform::DescriptionError.
+inline constexpr const char* kStandardInput = "-";
+
+// Both throw platform::DescriptionError, and RunError when there is not enough
+// memory.
 Server ReadServer(const std::filesystem::path& file);
 Server LoadBuiltInServer(const std::string& name);  // one that exists
 

@@ -16,10 +16,10 @@ std::unique_ptr<os::OutputFile> OpenOutput(const std::optional<std::filesystem::
   return name ? std::make_unique<os::OutputFile>(*name, privacy, onSignal) : nullptr;
 }
 
-Trail::Trail(const CollectOptions& options)
+Trail::Trail(const CollectOptions& options, Progress* progress)
     : fTraceFile(OpenPart(options.trace)),
       fLogFile(OpenPart(options.log)),
-      fLog(fLogFile.get(), options.logLevel) {
+      fLog(fLogFile.get(), options.logLevel, progress) {
   if (fTraceFile) {
     fTraceBuffer = std::make_unique<os::OutputStreamBuffer>(*fTraceFile);
     fTraceStream = std::make_unique<std::ostream>(fTraceBuffer.get());

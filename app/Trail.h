@@ -20,8 +20,9 @@ std::unique_ptr<os::OutputFile> OpenOutput(const std::optional<std::filesystem::
 
 class Trail {
  public:
-  // Opens the files; throws os::OutputError. A signal completes them.
-  explicit Trail(const CollectOptions& options);
+  // Opens the files; throws os::OutputError. A signal completes them. The
+  // progress, null when there is none, gives way to log lines.
+  Trail(const CollectOptions& options, Progress* progress);
 
   // Null without a trace.
   [[nodiscard]] platform::BoundaryObserver* Observer() const { return fTrace.get(); }

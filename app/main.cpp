@@ -3,29 +3,33 @@
 #include "app/Collect.h"
 #include "app/CommandLine.h"
 #include "app/Errors.h"
+#include "app/Messages.h"
 #include "os/OutputFile.h"
 #include "os/Signals.h"
 #include "os/Terminal.h"
 #include "platform/server/ServerDescription.h"
-#include "text/TextEscape.h"
 
 #include <exception>
-#include <string>
+#include <new>
 #include <variant>
 
 namespace strake::app {
 namespace {
 
 struct Runner {
-  void operator()(const CollectOptions& options) const { Collect(options); }
-  void operator()(const CheckOptions& options) const {
-    os::WriteStandardOutput(CheckDescription(options));
+  int operator()(const CollectOptions& options) const {
+    Collect(options);
+    return kExitDone;
   }
-  void operator()(const TextAnswer& answer) const { os::WriteStandardOutput(answer.text); }
+  int operator()(const CheckOptions& options) const { return Check(options); }
+  int operator()(const TextAnswer& answer) const {
+    os::WriteStandardOutput(answer.text);
+    return kExitDone;
+  }
 };
 
 int Fail(const char* text, int status) {
-  os::WriteStandardError("strake: " + text::EscapeForPeople(text) + "\n");
+  TellError(text);
   return status;
 }
 
@@ -33,12 +37,13 @@ int Main(int argc, char** argv) {
   try {
     os::OccupyStandardDescriptors();
     os::PrepareForSignals();
-    std::visit(Runner(), ParseCommandLine(argc, argv));
-    return kExitDone;
+    return std::visit(Runner(), ParseCommandLine(argc, argv));
   } catch (const UsageError& error) {
     return Fail(error.what(), kExitRefused);
   } catch (const platform::DescriptionError& error) {
     return Fail(error.what(), kExitRefused);
+  } catch (const std::bad_alloc&) {
+    return Fail("out of memory", kExitFailed);
   } catch (const std::exception& error) {
     return Fail(error.what(), kExitFailed);
   } catch (...) {

@@ -1,4 +1,4 @@
-// What standard output is.
+// What standard output and standard error are.
 #pragma once
 
 namespace strake::os {
@@ -6,6 +6,9 @@ namespace strake::os {
 // A terminal that shows colours, and a user who has nothing against them: no
 // NO_COLOR in the environment.
 bool StandardOutputShowsColour();
+
+// A terminal on which a line can be taken away again.
+bool StandardErrorCanErase();
 
 // Gives the three standard descriptors something where they are closed: a file
 // that is opened later would else get one of their numbers, and with it what is

@@ -13,13 +13,18 @@ std::string_view Variable(const char* name) {
   return value == nullptr ? std::string_view() : std::string_view(value);
 }
 
+bool ObeysSequences(int descriptor) {
+  const std::string_view terminal = Variable("TERM");
+  return ::isatty(descriptor) != 0 && !terminal.empty() && terminal != "dumb";
+}
+
 }  // namespace
 
 bool StandardOutputShowsColour() {
-  const std::string_view terminal = Variable("TERM");
-  return ::isatty(STDOUT_FILENO) != 0 && Variable("NO_COLOR").empty() && !terminal.empty() &&
-         terminal != "dumb";
+  return ObeysSequences(STDOUT_FILENO) && Variable("NO_COLOR").empty();
 }
+
+bool StandardErrorCanErase() { return ObeysSequences(STDERR_FILENO); }
 
 // Opened as a mere place in the file system, so that its use is still noticed as
 // an error. In ascending order: open gives the lowest number that is free.

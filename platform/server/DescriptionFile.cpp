@@ -22,20 +22,16 @@ struct Closer {
 
 // At most one byte more than a description may have, so that a device that
 // never ends and a huge file cost no more than the largest description.
-std::string ReadBytes(const std::filesystem::path& path) {
-  const std::unique_ptr<std::FILE, Closer> file(std::fopen(path.c_str(), "rbe"));
-  if (file == nullptr) {
-    Refuse(path.string(), errno);
-  }
+std::string ReadBytes(std::FILE* file, const std::string& name) {
   std::string text;
   constexpr std::size_t kChunk = std::size_t{64} * 1024;
   while (text.size() <= kMostDescriptionBytes) {
     const std::size_t filled = text.size();
     text.resize(filled + kChunk);
-    const std::size_t count = std::fread(&text.at(filled), 1, kChunk, file.get());
+    const std::size_t count = std::fread(&text.at(filled), 1, kChunk, file);
     text.resize(filled + count);
-    if (std::ferror(file.get()) != 0) {
-      Refuse(path.string(), errno);
+    if (std::ferror(file) != 0) {
+      Refuse(name, errno);
     }
     if (count == 0) {
       break;
@@ -47,7 +43,15 @@ std::string ReadBytes(const std::filesystem::path& path) {
 }  // namespace
 
 ServerDescription ReadServerDescription(const std::filesystem::path& file) {
-  return ParseServerDescription(ReadBytes(file), file.string());
+  const std::unique_ptr<std::FILE, Closer> stream(std::fopen(file.c_str(), "rbe"));
+  if (stream == nullptr) {
+    Refuse(file.string(), errno);
+  }
+  return ReadServerDescription(stream.get(), file.string());
+}
+
+ServerDescription ReadServerDescription(std::FILE* stream, const std::string& source) {
+  return ParseServerDescription(ReadBytes(stream, source), source);
 }
 
 }  // namespace strake::platform

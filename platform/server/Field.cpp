@@ -10,34 +10,20 @@
 namespace strake::platform {
 namespace {
 
-using nlohmann::json;
-
-std::string Describe(const json& value) {
-  switch (value.type()) {
-    case json::value_t::object:
+std::string Describe(const JsonValue& value) {
+  struct Describer {
+    std::string operator()(std::nullptr_t /*none*/) const { return "null"; }
+    std::string operator()(bool flag) const { return flag ? "true" : "false"; }
+    std::string operator()(std::int64_t number) const { return std::to_string(number); }
+    std::string operator()(std::uint64_t number) const { return std::to_string(number); }
+    std::string operator()(double number) const { return nlohmann::json(number).dump(); }
+    std::string operator()(const std::string& text) const { return text::Quoted(text); }
+    std::string operator()(const JsonValue::Array& /*items*/) const { return "an array"; }
+    std::string operator()(const std::unique_ptr<JsonValue::Object>& /*members*/) const {
       return "an object";
-    case json::value_t::array:
-      return "an array";
-    case json::value_t::string:
-      return text::Quoted(value.get_ref<const std::string&>());
-    default:
-      return value.dump();
-  }
-}
-
-// Empty when the value is no integer or does not fit.
-std::optional<std::int64_t> IntegerOf(const json& value) {
-  if (value.is_number_unsigned()) {
-    const auto number = value.get<std::uint64_t>();
-    if (number > static_cast<std::uint64_t>(INT64_MAX)) {
-      return std::nullopt;
     }
-    return static_cast<std::int64_t>(number);
-  }
-  if (value.is_number_integer()) {
-    return value.get<std::int64_t>();
-  }
-  return std::nullopt;
+  };
+  return std::visit(Describer(), value.content);
 }
 
 std::string Join(std::initializer_list<std::string_view> keys) {
@@ -53,67 +39,83 @@ std::string Join(std::initializer_list<std::string_view> keys) {
 
 }  // namespace
 
-Field::Field(const json& value, const std::string& source) : fValue(&value), fSource(&source) {}
+Field::Field(const JsonValue& value, const std::string& source)
+    : fValue(&value), fSource(&source) {}
 
-Field::Field(const json& value, const Field& parent, std::string_view token)
+Field::Field(const JsonValue& value, const Field& parent, std::string_view token)
     : fValue(&value), fSource(parent.fSource), fPointer(parent.fPointer) {
   AppendToPointer(fPointer, token);
 }
 
-bool Field::IsText() const { return fValue->is_string(); }
-bool Field::IsObject() const { return fValue->is_object(); }
-bool Field::IsArray() const { return fValue->is_array(); }
+bool Field::IsText() const { return std::holds_alternative<std::string>(fValue->content); }
+bool Field::IsObject() const { return fValue->AsObject() != nullptr; }
+bool Field::IsArray() const { return fValue->AsArray() != nullptr; }
 
 const std::string& Field::Text() const {
-  if (!IsText()) {
-    Refuse("a string");
+  if (const auto* const text = std::get_if<std::string>(&fValue->content)) {
+    return *text;
   }
-  return fValue->get_ref<const std::string&>();
+  Refuse("a string");
 }
 
 bool Field::Flag() const {
-  if (!fValue->is_boolean()) {
-    Refuse("true or false");
+  if (const auto* const flag = std::get_if<bool>(&fValue->content)) {
+    return *flag;
   }
-  return fValue->get<bool>();
+  Refuse("true or false");
 }
 
 int Field::Integer(int lowest, int highest) const {
-  const std::optional<std::int64_t> number = IntegerOf(*fValue);
-  if (!number || *number < lowest || *number > highest) {
+  const auto* const number = std::get_if<std::int64_t>(&fValue->content);
+  if (number == nullptr || *number < lowest || *number > highest) {
     Refuse("an integer from " + std::to_string(lowest) + " to " + std::to_string(highest));
   }
   return static_cast<int>(*number);
 }
 
 double Field::Number(int lowest, int highest) const {
-  if (fValue->is_number()) {
-    const auto number = fValue->get<double>();
-    if (number >= lowest && number <= highest) {
-      return number;
-    }
+  double number = lowest - 1.0;
+  if (const auto* const integer = std::get_if<std::int64_t>(&fValue->content)) {
+    number = static_cast<double>(*integer);
+  } else if (const auto* const real = std::get_if<double>(&fValue->content)) {
+    number = *real;
   }
-  Refuse("a number from " + std::to_string(lowest) + " to " + std::to_string(highest));
+  if (number < lowest || number > highest) {
+    Refuse("a number from " + std::to_string(lowest) + " to " + std::to_string(highest));
+  }
+  return number;
+}
+
+const JsonValue::Object& Field::Members() const {
+  const JsonValue::Object* const members = fValue->AsObject();
+  if (members == nullptr) {
+    Refuse("an object");
+  }
+  return *members;
+}
+
+const JsonValue::Array& Field::Items() const {
+  const JsonValue::Array* const items = fValue->AsArray();
+  if (items == nullptr) {
+    Refuse("an array");
+  }
+  return *items;
 }
 
 void Field::AllowKeys(std::initializer_list<std::string_view> keys) const {
-  if (!IsObject()) {
-    Refuse("an object");
-  }
-  for (const auto& [key, value] : fValue->items()) {
-    if (std::ranges::find(keys, key) != keys.end()) {
-      continue;
+  for (const auto& [key, value] : Members()) {
+    if (std::ranges::find(keys, key) == keys.end()) {
+      RefuseGot("no key but " + Join(keys), text::Quoted(key));
     }
-    RefuseGot("no key but " + Join(keys), text::Quoted(key));
   }
 }
 
 std::optional<Field> Field::Find(const char* key) const {
-  const auto found = fValue->find(key);
-  if (found == fValue->end()) {
+  const auto found = Members().find(key);
+  if (found == Members().end()) {
     return std::nullopt;
   }
-  return Field(*found, *this, key);
+  return Field(found->second, *this, key);
 }
 
 Field Field::Require(const char* key) const {
@@ -126,25 +128,17 @@ Field Field::Require(const char* key) const {
 
 void Field::ForEachMember(
     const std::function<void(const std::string& key, const Field& member)>& visit) const {
-  if (!IsObject()) {
-    Refuse("an object");
-  }
-  for (const auto& [key, value] : fValue->items()) {
+  for (const auto& [key, value] : Members()) {
     visit(key, Field(value, *this, key));
   }
 }
 
-std::size_t Field::ItemCount() const {
-  if (!IsArray()) {
-    Refuse("an array");
-  }
-  return fValue->size();
-}
+std::size_t Field::ItemCount() const { return Items().size(); }
 
 void Field::ForEachItem(const std::function<void(const Field& item)>& visit) const {
-  const std::size_t count = ItemCount();
-  for (std::size_t i = 0; i < count; ++i) {
-    visit(Field((*fValue)[i], *this, std::to_string(i)));
+  std::size_t place = 0;
+  for (const JsonValue& item : Items()) {
+    visit(Field(item, *this, std::to_string(place++)));
   }
 }
 

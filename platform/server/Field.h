@@ -3,9 +3,10 @@
 // refusal throws DescriptionError.
 #pragma once
 
+#include "platform/server/JsonValue.h"
+
 #include <functional>
 #include <initializer_list>
-#include <nlohmann/json_fwd.hpp>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -15,7 +16,7 @@ namespace strake::platform {
 class Field {
  public:
   // The whole text. Text and source must outlive every field made from them.
-  Field(const nlohmann::json& value, const std::string& source);
+  Field(const JsonValue& value, const std::string& source);
 
   [[nodiscard]] bool IsText() const;
   [[nodiscard]] bool IsObject() const;
@@ -45,9 +46,12 @@ class Field {
   [[noreturn]] void RefuseGot(const std::string& expected, const std::string& got) const;
 
  private:
-  Field(const nlohmann::json& value, const Field& parent, std::string_view token);
+  Field(const JsonValue& value, const Field& parent, std::string_view token);
 
-  const nlohmann::json* fValue;
+  [[nodiscard]] const JsonValue::Object& Members() const;  // refuses what is no object
+  [[nodiscard]] const JsonValue::Array& Items() const;     // refuses what is no array
+
+  const JsonValue* fValue;
   const std::string* fSource;
   std::string fPointer;
 };

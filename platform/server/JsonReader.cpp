@@ -5,6 +5,10 @@
 #include "text/Quote.h"
 
 #include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <iterator>
+#include <memory>
 #include <nlohmann/json.hpp>
 #include <utility>
 #include <vector>
@@ -14,22 +18,69 @@ namespace {
 
 using nlohmann::json;
 
+// A text's characters, the white space between its values as blanks: the
+// library repeats in a message all that it read since the last string or number,
+// and a line feed takes eight bytes there.
+class Characters {
+ public:
+  // NOLINTBEGIN(readability-identifier-naming): as the library looks for them
+  using value_type = char;
+  using difference_type = std::ptrdiff_t;
+  using pointer = const char*;
+  using reference = char;
+  using iterator_category = std::input_iterator_tag;
+  // NOLINTEND(readability-identifier-naming)
+
+  Characters(std::string_view text, std::size_t place) : fText(text), fPlace(place) {}
+
+  char operator*() const {
+    const char character = fText[fPlace];
+    const bool isWhiteSpace = character == '\n' || character == '\r' || character == '\t';
+    return isWhiteSpace && !fIsInString ? ' ' : character;
+  }
+
+  Characters& operator++() {
+    const char character = fText[fPlace++];
+    if (fIsEscaped) {
+      fIsEscaped = false;
+    } else if (character == '"') {
+      fIsInString = !fIsInString;
+    } else {
+      fIsEscaped = fIsInString && character == '\\';
+    }
+    return *this;
+  }
+
+  bool operator==(const Characters& other) const { return fPlace == other.fPlace; }
+
+ private:
+  std::string_view fText;
+  std::size_t fPlace;
+  bool fIsInString = false;
+  bool fIsEscaped = false;
+};
+
 // Builds the values out of the library's parse events.
 class Builder : public nlohmann::json_sax<json> {
  public:
   Builder(std::string_view text, const std::string& source) : fText(text), fSource(source) {}
 
-  json Result() { return std::move(fRoot); }
+  JsonValue Result() { return std::move(fRoot); }
 
-  bool null() override { return Add(nullptr); }
-  bool boolean(bool value) override { return Add(value); }
-  bool number_integer(number_integer_t value) override { return Add(value); }
-  bool number_unsigned(number_unsigned_t value) override { return Add(value); }
-  bool number_float(number_float_t value, const string_t& /*text*/) override { return Add(value); }
-  bool string(string_t& value) override { return Add(std::move(value)); }
-  bool binary(binary_t& value) override { return Add(std::move(value)); }
-  bool start_object(std::size_t /*elements*/) override { return Open(json::object()); }
-  bool start_array(std::size_t /*elements*/) override { return Open(json::array()); }
+  bool null() override { return Add({nullptr}); }
+  bool boolean(bool value) override { return Add({value}); }
+  bool number_integer(number_integer_t value) override { return Add({value}); }
+  bool number_unsigned(number_unsigned_t value) override;
+  bool number_float(number_float_t value, const string_t& /*text*/) override {
+    return Add({value});
+  }
+  // The library's string has room for more than its text.
+  bool string(string_t& value) override { return Add({std::string(value)}); }
+  bool binary(binary_t& /*value*/) override { return false; }  // JSON has none
+  bool start_object(std::size_t /*elements*/) override {
+    return Open({std::make_unique<JsonValue::Object>()});
+  }
+  bool start_array(std::size_t /*elements*/) override { return Open({JsonValue::Array()}); }
   bool end_object() override { return Close(); }
   bool end_array() override { return Close(); }
   bool key(string_t& value) override;
@@ -39,45 +90,57 @@ class Builder : public nlohmann::json_sax<json> {
  private:
   // An object or array that is not closed yet, and where its next value goes.
   struct OpenValue {
-    json* value;
+    JsonValue* value;
     std::string key;
   };
 
-  json& Place(json&& value);
-  bool Add(json&& value);
-  bool Open(json&& value);
+  JsonValue& Place(JsonValue&& value);
+  bool Add(JsonValue&& value);
+  bool Open(JsonValue&& value);
   bool Close();
   [[nodiscard]] std::string Pointer() const;
 
   std::string_view fText;
   const std::string& fSource;
-  json fRoot;
+  JsonValue fRoot;
   std::vector<OpenValue> fOpen;
+  std::size_t fValues = 0;
 };
 
-json& Builder::Place(json&& value) {
+JsonValue& Builder::Place(JsonValue&& value) {
+  if (++fValues > kMostDescriptionValues) {
+    throw DescriptionError(fSource + ": at " + PrintablePointer(Pointer()) + ": expected at most " +
+                           std::to_string(kMostDescriptionValues) +
+                           " values in the whole text, got more");
+  }
   if (fOpen.empty()) {
     return fRoot = std::move(value);
   }
-  json& parent = *fOpen.back().value;
-  if (parent.is_object()) {
-    return parent[fOpen.back().key] = std::move(value);
+  JsonValue& parent = *fOpen.back().value;
+  if (JsonValue::Object* const object = parent.AsObject()) {
+    return (*object)[fOpen.back().key] = std::move(value);
   }
-  parent.push_back(std::move(value));
-  return parent.back();
+  return parent.AsArray()->emplace_back(std::move(value));
 }
 
-bool Builder::Add(json&& value) {
+bool Builder::number_unsigned(number_unsigned_t value) {
+  if (value <= static_cast<number_unsigned_t>(INT64_MAX)) {
+    return Add({static_cast<std::int64_t>(value)});
+  }
+  return Add({value});
+}
+
+bool Builder::Add(JsonValue&& value) {
   Place(std::move(value));
   return true;
 }
 
-bool Builder::Open(json&& value) {
+bool Builder::Open(JsonValue&& value) {
   if (fOpen.size() == static_cast<std::size_t>(kDeepestDescription)) {
     throw DescriptionError(fSource + ": at " + PrintablePointer(Pointer()) + ": expected at most " +
                            std::to_string(kDeepestDescription) + " levels of nesting, got more");
   }
-  json& placed = Place(std::move(value));
+  JsonValue& placed = Place(std::move(value));
   fOpen.push_back({&placed, {}});
   return true;
 }
@@ -88,11 +151,11 @@ bool Builder::Close() {
 }
 
 bool Builder::key(string_t& value) {
-  if (fOpen.back().value->contains(value)) {
+  if (fOpen.back().value->AsObject()->contains(value)) {
     throw DescriptionError(fSource + ": at " + PrintablePointer(Pointer()) +
                            ": expected each key once, got " + text::Quoted(value) + " twice");
   }
-  fOpen.back().key = std::move(value);
+  fOpen.back().key = value;
   return true;
 }
 
@@ -101,8 +164,8 @@ std::string Builder::Pointer() const {
   std::string pointer;
   for (std::size_t i = 0; i + 1 < fOpen.size(); ++i) {
     const OpenValue& open = fOpen[i];
-    AppendToPointer(pointer,
-                    open.value->is_object() ? open.key : std::to_string(open.value->size() - 1));
+    const JsonValue::Array* const array = open.value->AsArray();
+    AppendToPointer(pointer, array == nullptr ? open.key : std::to_string(array->size() - 1));
   }
   return pointer;
 }
@@ -136,14 +199,14 @@ bool Builder::parse_error(std::size_t position, const std::string& /*lastToken*/
 
 }  // namespace
 
-json ReadJson(std::string_view text, const std::string& source) {
+JsonValue ReadJson(std::string_view text, const std::string& source) {
   // The library would take a zero byte for the end of the text.
   if (const std::size_t zero = text.find('\0'); zero != std::string_view::npos) {
     throw DescriptionError(source + ": " + PlaceOf(text, zero) +
                            ": expected text, got a zero byte");
   }
   Builder builder(text, source);
-  json::sax_parse(text.begin(), text.end(), &builder);
+  json::sax_parse(Characters(text, 0), Characters(text, text.size()), &builder);
   return builder.Result();
 }
 

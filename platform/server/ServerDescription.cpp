@@ -1,6 +1,7 @@
 #include "platform/server/ServerDescription.h"
 
 #include "cim/DateTimeText.h"
+#include "platform/server/Capture.h"
 #include "platform/server/Field.h"
 #include "platform/server/JsonReader.h"
 #include "platform/server/Replies.h"
@@ -9,7 +10,6 @@
 
 #include <array>
 #include <cstdint>
-#include <nlohmann/json.hpp>
 #include <utility>
 
 namespace strake::platform {
@@ -175,7 +175,7 @@ ServerDescription ParseServerDescription(std::string_view text, const std::strin
     throw DescriptionError(name + ": expected at most " + std::to_string(kMostDescriptionBytes) +
                            " bytes, got more");
   }
-  const nlohmann::json json = ReadJson(text, name);
+  const JsonValue json = ReadJson(text, name);
   const Field root(json, name);
   if (!root.IsObject()) {
     root.Refuse("an object");
@@ -183,7 +183,10 @@ ServerDescription ParseServerDescription(std::string_view text, const std::strin
   // A text of another format is told so, and not that its keys are unknown.
   CheckFormat(root);
   root.AllowKeys({"format", "description", "machine_type_model", "system_name",
-                  "system_creation_class_name", "local_time", "sp"});
+                  "system_creation_class_name", "local_time", "capture", "sp"});
+  if (const auto capture = root.Find("capture")) {
+    CheckCapture(*capture);
+  }
   ServerDescription server;
   if (const auto description = root.Find("description")) {
     server.description = description->Text();

@@ -4,7 +4,7 @@
 
 #include "plugin/host/TCIMDateTime.h"
 
-#include <array>
+#include <cstdio>
 #include <filesystem>
 #include <map>
 #include <optional>
@@ -75,9 +75,13 @@ class DescriptionError : public std::runtime_error {
 
 inline constexpr std::size_t kMostDescriptionBytes = std::size_t{16} * 1024 * 1024;
 inline constexpr int kDeepestDescription = 64;
+// Keeps what a description costs in memory far under 256 MiB, however small its
+// values are.
+inline constexpr std::size_t kMostDescriptionValues = 400'000;
 
 // Throws DescriptionError; `source` names the text in its message.
 ServerDescription ParseServerDescription(std::string_view text, const std::string& source);
 ServerDescription ReadServerDescription(const std::filesystem::path& file);
+ServerDescription ReadServerDescription(std::FILE* stream, const std::string& source);
 
 }  // namespace strake::platform

@@ -11,6 +11,7 @@
 #include <ostream>
 #include <stdexcept>
 #include <sys/prctl.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <termios.h>
@@ -158,6 +159,11 @@ void Command::ArrangeDescriptors(int out, int err) const {
   }
 }
 
+Command& Command::AddressSpace(unsigned long bytes) {
+  fAddressSpace = bytes;
+  return *this;
+}
+
 void Command::Become(int out, int err) const {
   if (fOrdinaryUser && ::geteuid() == 0) {
     for (const int privilege : {CAP_DAC_OVERRIDE, CAP_DAC_READ_SEARCH}) {
@@ -189,6 +195,10 @@ void Command::Become(int out, int err) const {
     environment.push_back(variable.data());
   }
   environment.push_back(nullptr);
+  if (fAddressSpace != 0) {
+    const rlimit limit{fAddressSpace, fAddressSpace};
+    ::setrlimit(RLIMIT_AS, &limit);
+  }
   ::execve(arguments.front(), arguments.data(), environment.data());
   ::_exit(127);
 }
@@ -235,6 +245,13 @@ Outcome Command::RunUntil(const std::string& errors, int signal) const {
   ::close(ends[0]);
   const int status = Wait(process);
   return {status, out.Text(), text};
+}
+
+Outcome Command::RunWithErrorsOnTerminal() const {
+  const Capture out;
+  const Terminal err;
+  const int status = Wait(Start(out.Descriptor(), err.Descriptor()));
+  return {status, out.Text(), err.Text()};
 }
 
 Outcome Strake(const std::vector<std::string>& words) { return Command(words).Run(); }

@@ -37,12 +37,16 @@ class Command {
   Command& Mask(mode_t mask);
   // Run by root it has no more rights to files than their modes give.
   Command& AsOrdinaryUser();
+  // The most memory that it may map.
+  Command& AddressSpace(unsigned long bytes);
 
   [[nodiscard]] Outcome Run() const;
   // As on a terminal.
   [[nodiscard]] Outcome RunOnTerminal() const;
   // Sends the signal when standard error has said so much.
   [[nodiscard]] Outcome RunUntil(const std::string& errors, int signal) const;
+  // Standard error alone is a terminal.
+  [[nodiscard]] Outcome RunWithErrorsOnTerminal() const;
 
  private:
   struct OpenFile {
@@ -63,6 +67,7 @@ class Command {
   std::vector<int> fIgnored;
   mode_t fMask = 022;
   bool fOrdinaryUser = false;
+  unsigned long fAddressSpace = 0;  // 0: as much as there is
 };
 
 Outcome Strake(const std::vector<std::string>& words);

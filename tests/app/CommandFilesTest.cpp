@@ -104,7 +104,7 @@ TEST_F(CommandFilesTest, RefusesWrongUsageAndTouchesNothing) {
   ExpectEnd(Collect({"--class", "two\nlines"}), 2,
             "strake: --class: there is no class 'two\\nlines'");
   ExpectEnd(Collect({"--format", "xml"}), 2, "strake: --format: there is no format 'xml'");
-  ExpectEnd(Strake({}), 2, "strake: A subcommand is required");
+  ExpectEnd(Strake({}), 2, "strake: a subcommand was expected: collect, check, help or version");
 }
 
 TEST_F(CommandFilesTest, FailsOverAModuleThatCannotBeLoadedAndTouchesNothing) {
@@ -157,7 +157,7 @@ TEST_F(CommandFilesTest, EndsARunWhoseQueryThrowsAndKeepsItsTrail) {
     }
     const Outcome outcome =
         Collect({"--plugin", HostileModule(), "--query", "VELKSG_SP_ComputerSystem", "--query",
-                 one.className, "--query", ""});
+                 one.className, "--query", "", "--quiet"});
     EXPECT_EQ(outcome, (Outcome{1, "", "strake: " + one.message + "\n"}));
     EXPECT_EQ(ReadFile(fOutputs[0]), "old report");
     EXPECT_EQ(ReadFile(fOutputs[2]), "[1] hello\\nsecond line\\x1B\n");
@@ -203,7 +203,8 @@ TEST_F(CommandFilesTest, EndsARunWhoseModuleFailsBesideItsQueries) {
 }
 
 TEST_F(CommandFilesTest, NamesTheHostsAssertion) {
-  const Outcome outcome = CollectHostile({"--query", "VELKSG_Unheard", "--log-level", "0"});
+  const Outcome outcome =
+      CollectHostile({"--query", "VELKSG_Unheard", "--log-level", "0", "--quiet"});
   EXPECT_EQ(outcome.status, 1);
   EXPECT_EQ(outcome.out, "");
   EXPECT_EQ(outcome.err.find("strake: query 1 ended with an exception: px != 0 failed in "), 0U);

@@ -42,14 +42,15 @@ TEST(CommandLine, HasTheDefaultsOfItsHelp) {
   EXPECT_TRUE(options.classes.empty());
   EXPECT_TRUE(options.queries.empty());
   EXPECT_EQ(options.format, app::ReportFormat::Table);
-  EXPECT_EQ(options.logLevel, 2);
+  EXPECT_EQ(options.logLevel, 1);
   EXPECT_FALSE(options.showSecrets);
+  EXPECT_FALSE(options.quiet);
 }
 
 TEST(CommandLine, TakesEveryOption) {
-  const CollectOptions options =
-      Collect({"--server", "s", "--query", "A,B", "--format", "json", "--output", "o", "--trace",
-               "t", "--log", "l", "--log-level", "0", "--show-secrets", "--plugin", "p"});
+  const CollectOptions options = Collect(
+      {"--server", "s", "--query", "A,B", "--format", "json", "--output", "o", "--trace", "t",
+       "--log", "l", "--log-level", "0", "--show-secrets", "--quiet", "--plugin", "p"});
   EXPECT_EQ(options.server, "s");
   EXPECT_EQ(options.queries, std::vector<std::string>{"A,B"});
   EXPECT_EQ(options.format, app::ReportFormat::Json);
@@ -58,6 +59,7 @@ TEST(CommandLine, TakesEveryOption) {
   EXPECT_EQ(options.log, "l");
   EXPECT_EQ(options.logLevel, 0);
   EXPECT_TRUE(options.showSecrets);
+  EXPECT_TRUE(options.quiet);
   EXPECT_EQ(options.plugin, "p");
   EXPECT_EQ(Collect({"--demo", "demo-tavit"}).demo, "demo-tavit");
 }
@@ -84,7 +86,7 @@ TEST(CommandLine, TakesOneValueAClassOption) {
                 .classes,
             (std::vector<std::string>{"VELKSG_SP_NumericSensor", "VELKSG_SP_ComputerSystem"}));
   EXPECT_EQ(RefusalOf({"collect", "--class", "VELKSG_SP_NumericSensor", "VELKSG_SP_NumericSensor"}),
-            "The following argument was not expected: VELKSG_SP_NumericSensor (see strake --help)");
+            "nothing takes the word 'VELKSG_SP_NumericSensor' (see strake collect --help)");
 }
 
 TEST(CommandLine, RefusesWhatItDoesNotKnow) {
@@ -98,29 +100,53 @@ TEST(CommandLine, RefusesWhatItDoesNotKnow) {
     std::string expected;
   };
   const std::vector<Case> cases = {
-      {{}, "A subcommand is required"},
-      {{"gather"}, "A subcommand is required"},
-      {{"collect", "--nonsense"}, "The following argument was not expected: --nonsense"},
-      {{"collect", "more"}, "The following argument was not expected: more"},
-      {{"collect", "--class", "X"}, "--class: there is no class 'X', " + known},
-      {{"collect", "--class", ""}, "--class: there is no class '', " + known},
-      {{"collect", "--class="}, "--class: there is no class '', " + known},
-      {{"collect", "--demo", "x"},
-       "--demo: there is no built-in server 'x', expected one of demo-orlo, demo-tavit"},
-      {{"collect", "--format", "xml"},
-       "--format: there is no format 'xml', expected table or json"},
-      {{"collect", "--log-level", "5"}, "--log-level: '5' is no level, expected 0 to 4"},
-      {{"collect", "--log-level", "-1"}, "--log-level: '-1' is no level, expected 0 to 4"},
-      {{"collect", "--log-level", "2x"}, "--log-level: '2x' is no level, expected 0 to 4"},
-      {{"collect", "--log-level", ""}, "--log-level: '' is no level, expected 0 to 4"},
-      {{"collect", "--output", ""}, "--output: the name of a file was expected"},
-      {{"collect", "--server="}, "--server: the name of a file was expected"},
-      {{"check", ""}, "file: the name of a file was expected"},
-      {{"check"}, "file is required"},
-      {{"check", "a", "b"}, "The following argument was not expected: b"},
+      {{}, "a subcommand was expected: collect, check, help or version"},
+      {{"gather"}, "there is no subcommand 'gather'"},
+      {{""}, "there is no subcommand ''"},
+      {{"colect", "--server", "s"}, "there is no subcommand 'colect', did you mean 'collect'?"},
+      {{"--verison"}, "there is no option '--verison', did you mean '--version'?"},
+      {{"--sever", "s", "collect"}, "there is no option '--sever'"},
+      {{"help", "chekc"}, "there is no subcommand 'chekc', did you mean 'check'?"},
+      {{"help", "nothing"}, "there is no subcommand 'nothing'"},
   };
   for (const Case& one : cases) {
     EXPECT_EQ(RefusalOf(one.words), one.expected + " (see strake --help)");
+  }
+  const std::vector<Case> collectCases = {
+      {{"--nonsense"}, "there is no option '--nonsense'"},
+      {{"--fromat", "json"}, "there is no option '--fromat', did you mean '--format'?"},
+      {{"--fromat=json"}, "there is no option '--fromat', did you mean '--format'?"},
+      {{"-x"}, "there is no option '-x'"},
+      {{"more"}, "nothing takes the word 'more'"},
+      {{"check"}, "nothing takes the word 'check'"},
+      {{"-"}, "nothing takes the word '-'"},
+      {{"--class", "X"}, "--class: there is no class 'X', " + known},
+      {{"--class", ""}, "--class: there is no class '', " + known},
+      {{"--class="}, "--class: there is no class '', " + known},
+      {{"--demo", "x"},
+       "--demo: there is no built-in server 'x', expected one of demo-orlo, demo-tavit"},
+      {{"--format", "xml"}, "--format: there is no format 'xml', expected table or json"},
+      {{"--log-level", "5"}, "--log-level: '5' is no level, expected 0 to 4"},
+      {{"--log-level", "-1"}, "--log-level: '-1' is no level, expected 0 to 4"},
+      {{"--log-level", "2x"}, "--log-level: '2x' is no level, expected 0 to 4"},
+      {{"--log-level", ""}, "--log-level: '' is no level, expected 0 to 4"},
+      {{"--output", ""}, "--output: the name of a file was expected"},
+      {{"--server="}, "--server: the name of a file was expected"},
+  };
+  for (Case one : collectCases) {
+    one.words.insert(one.words.begin(), "collect");
+    EXPECT_EQ(RefusalOf(one.words), one.expected + " (see strake collect --help)");
+  }
+  const std::vector<Case> checkCases = {
+      {{""}, "file: the name of a file was expected"},
+      {{"a", ""}, "file: the name of a file was expected"},
+      {{}, "file is required"},
+      {{"--format", "json"}, "there is no option '--format'"},
+      {{"a", "--halp"}, "there is no option '--halp', did you mean '--help'?"},
+  };
+  for (Case one : checkCases) {
+    one.words.insert(one.words.begin(), "check");
+    EXPECT_EQ(RefusalOf(one.words), one.expected + " (see strake check --help)");
   }
 }
 
@@ -134,8 +160,21 @@ TEST(CommandLine, RefusesOptionsThatContradictEachOther) {
   }
 }
 
-TEST(CommandLine, ChecksAFile) {
-  EXPECT_EQ(std::get<app::CheckOptions>(Parse({"check", "file"})).file, "file");
+TEST(CommandLine, ChecksFilesInTheirOrder) {
+  using Files = std::vector<std::filesystem::path>;
+  EXPECT_EQ(std::get<app::CheckOptions>(Parse({"check", "file"})).files, Files{"file"});
+  EXPECT_EQ(std::get<app::CheckOptions>(Parse({"check", "b", "-", "a", "b"})).files,
+            (Files{"b", "-", "a", "b"}));
+}
+
+TEST(CommandLine, TakesADashForStandardInputOrOutput) {
+  const CollectOptions options =
+      Collect({"--server", "-", "--output", "-", "--trace", "-", "--log", "-"});
+  EXPECT_EQ(options.server, "-");
+  EXPECT_FALSE(options.output);
+  EXPECT_EQ(options.trace, "/dev/stdout");
+  EXPECT_EQ(options.log, "/dev/stdout");
+  EXPECT_EQ(options.logLevel, 4);
 }
 
 TEST(CommandLine, AnswersHelpAndVersionWithText) {
@@ -147,6 +186,18 @@ TEST(CommandLine, AnswersHelpAndVersionWithText) {
     EXPECT_EQ(text.back(), '\n');
   }
   EXPECT_EQ(std::get<app::TextAnswer>(Parse({"--version"})).text.substr(0, 7), "strake ");
+}
+
+TEST(CommandLine, TakesHelpAndVersionAsWords) {
+  const auto text = [](const Words& words) { return std::get<app::TextAnswer>(Parse(words)).text; };
+  EXPECT_EQ(text({"help"}), text({"--help"}));
+  EXPECT_EQ(text({"version"}), text({"--version"}));
+  for (const char* const subject : {"collect", "check", "help", "version"}) {
+    EXPECT_EQ(text({"help", subject}), text({subject, "--help"}));
+    EXPECT_NE(text({"help", subject}), text({"help"}));
+    EXPECT_NE(text({"help", subject}).find(std::string("Usage: strake ") + subject),
+              std::string::npos);
+  }
 }
 
 TEST(BuiltInServers, AreTheFilesByteForByte) {

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 #include <sstream>
+#include <unistd.h>
 
 namespace strake::tests {
 namespace {
@@ -50,7 +51,7 @@ class CommandTest : public testing::Test {
 
   // The queries as the trace tells them.
   [[nodiscard]] std::string QueriesOf(std::vector<std::string> words) const {
-    words.insert(words.end(), {"--trace", fFolder / "trace", "--output", "/dev/null"});
+    words.insert(words.end(), {"--trace", fFolder / "trace", "--output", "/dev/null", "--quiet"});
     EXPECT_EQ(Collect(words), (Outcome{0, "", ""}));
     std::string queries;
     std::istringstream lines(ReadFile(fFolder / "trace"));
@@ -212,14 +213,71 @@ TEST_F(CommandTest, FindsAServiceProcessorThatDoesNotAnswerNoError) {
                               "[0] Could not communicate with Orlo card.\n"}));
 }
 
-TEST_F(CommandTest, ChecksADescription) {
-  EXPECT_EQ(Strake({"check", fServer}),
-            (Outcome{0, fServer + " is fine: kind orlo, 1 service processor; One card\n", ""}));
+TEST_F(CommandTest, ReadsAServerFromStandardInput) {
+  const Outcome outcome =
+      Command({"collect", "--server", "-", "--class", "VELKSG_SP_ComputerSystem"})
+          .Reading(STDIN_FILENO, fServer)
+          .Run();
+  std::string table = kSystemTable;
+  table.replace(0, std::string("rack7.server.json").size(), "standard input");
+  EXPECT_EQ(outcome, (Outcome{0, table, ""}));
+  EXPECT_EQ(Command({"collect", "--server", "-"}).Reading(STDIN_FILENO, "/dev/null").Run(),
+            (Outcome{2, "",
+                     "strake: standard input: line 1, column 1: syntax error while parsing value "
+                     "- unexpected end of input; expected '[', '{', or a literal\n"}));
+}
+
+TEST_F(CommandTest, WritesToStandardOutputForADash) {
+  const std::vector<std::string> words = {"--class", "VELKSG_SP_ComputerSystem", "--output"};
+  EXPECT_EQ(Collect({words[0], words[1], words[2], "-"}), (Outcome{0, kSystemTable, ""}));
+  const Outcome trace = Collect({words[0], words[1], words[2], fFolder / "report", "--trace", "-"});
+  EXPECT_EQ(trace.out.substr(0, 16), R"({"event":"log",")");
+  EXPECT_EQ(trace.err, "");
+  EXPECT_EQ(ReadFile(fFolder / "report"), kSystemTable);
+  const Outcome log = Collect({words[0], words[1], words[2], fFolder / "report", "--log", "-"});
+  EXPECT_EQ(log.out.substr(0, 4), "[3] ");
+  EXPECT_EQ(Collect({"--trace", "-"}),
+            (Outcome{2, "", "strake: the report and --trace: both are the file /dev/stdout\n"}));
+}
+
+TEST_F(CommandTest, WarnsOnceOfAClassThatTheSchemaLacksAndHandsItOn) {
+  const std::vector<std::string> words = {"--query",  "VELKSG_SP_ComputerSytem, Unheard",
+                                          "--query",  "Unheard",
+                                          "--trace",  fFolder / "trace",
+                                          "--output", "/dev/null"};
+  EXPECT_EQ(Collect(words),
+            (Outcome{0, "",
+                     "strake: warning: --query: no class of the schema is called "
+                     "'VELKSG_SP_ComputerSytem', did you mean 'VELKSG_SP_ComputerSystem'?\n"
+                     "strake: warning: --query: no class of the schema is called 'Unheard'\n"}));
+  EXPECT_NE(ReadFile(fFolder / "trace").find(R"("classes":["VELKSG_SP_ComputerSytem","Unheard"]})"),
+            std::string::npos);
+  std::vector<std::string> quiet = words;
+  quiet.emplace_back("--quiet");
+  EXPECT_EQ(Collect(quiet), (Outcome{0, "", ""}));
+}
+
+TEST_F(CommandTest, AsksEachOfAHundredAndThirtyServiceProcessorsWithoutACount) {
+  std::string instances;
+  for (int i = 0; i < 130; ++i) {
+    instances += std::string(i == 0 ? "" : ",") + R"({"dot_commands": {"1.1": "01"}})";
+  }
+  const std::string server = fFolder.Write(
+      "many",
+      R"({"format": "strake-server/1", "sp": {"kind": "orlo", "instances": [)" + instances + "]}}");
+  const Outcome outcome = Strake(
+      {"collect", "--server", server, "--class", "VELKSG_SP_ComputerSystem", "--log-level", "0"});
+  EXPECT_EQ(outcome.status, 0);
+  EXPECT_EQ(outcome.err, "");
+  EXPECT_NE(outcome.out.find("SRV1:Node130\n"), std::string::npos);
+  EXPECT_NE(outcome.out.find("\n130 instances, 1 query, 130 service processors\n"),
+            std::string::npos);
 }
 
 TEST_F(CommandTest, PrintsHelpAndVersionOnStandardOutput) {
   EXPECT_EQ(Strake({"--version"}).status, 0);
   EXPECT_EQ(Strake({"--version"}).err, "");
+  EXPECT_EQ(Strake({"version"}), Strake({"--version"}));
   const Outcome help = Strake({"collect", "--help"});
   EXPECT_EQ(help.status, 0);
   EXPECT_NE(help.out.find("Examples:\n"), std::string::npos);

@@ -48,12 +48,15 @@ TEST(QueryPlan, KnowsTheClassesOfTheSchemaAndNoOthers) {
   }
 }
 
-TEST(QueryPlan, SplitsAListAtItsCommasAndChangesNothing) {
+TEST(QueryPlan, SplitsAListAtItsCommasAndTakesTheBlanksAroundNamesAway) {
   EXPECT_EQ(app::SplitClassList(""), ClassNames{});
   EXPECT_EQ(app::SplitClassList("A"), ClassNames{"A"});
   EXPECT_EQ(app::SplitClassList("B,A,B"), (ClassNames{"B", "A", "B"}));
   EXPECT_EQ(app::SplitClassList("A,,B,"), (ClassNames{"A", "", "B", ""}));
-  EXPECT_EQ(app::SplitClassList(" A , B"), (ClassNames{" A ", " B"}));
+  EXPECT_EQ(app::SplitClassList(" A , B"), (ClassNames{"A", "B"}));
+  EXPECT_EQ(app::SplitClassList("A,\t B C ,"), (ClassNames{"A", "B C", ""}));
+  EXPECT_EQ(app::SplitClassList(" , "), (ClassNames{"", ""}));
+  EXPECT_EQ(app::SplitClassList(" \t"), ClassNames{});
 }
 
 }  // namespace

@@ -1,9 +1,11 @@
 #include "platform/server/ServerDescription.h"
 #include "tests/support/StepDown.h"
 
+#include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
+#include <memory>
 #include <string>
 #include <unistd.h>
 
@@ -58,6 +60,27 @@ TEST_F(DescriptionFileTest, IsNamedWhenItMayNotBeRead) {
   std::filesystem::permissions(file, std::filesystem::perms::none);
   const tests::StepDown user;
   EXPECT_EQ(RefusalOf(file), file.string() + ": cannot be read: Permission denied");
+}
+
+TEST_F(DescriptionFileTest, IsReadFromAStreamUnderTheNameThatItIsGiven) {
+  const auto file = Write("a", R"({"format":"strake-server/1","sp":{"kind":"tavit"}})");
+  const auto read = [](const std::filesystem::path& name, const char* mode) {
+    const std::unique_ptr<std::FILE, int (*)(std::FILE*)> stream(std::fopen(name.c_str(), mode),
+                                                                 std::fclose);
+    return ReadServerDescription(stream.get(), "the stream");
+  };
+  EXPECT_EQ(read(file, "r").sp.kind, SpKind::Tavit);
+  const auto refusal = [&read](const std::filesystem::path& name, const char* mode) {
+    try {
+      read(name, mode);
+    } catch (const DescriptionError& error) {
+      return std::string(error.what());
+    }
+    return std::string("taken");
+  };
+  EXPECT_EQ(refusal(Write("b", "7"), "r"),
+            "the stream: at the top level: expected an object, got 7");
+  EXPECT_EQ(refusal(Write("c", ""), "a"), "the stream: cannot be read: Bad file descriptor");
 }
 
 TEST_F(DescriptionFileTest, IsNamedWhenItIsEmpty) {

@@ -126,7 +126,7 @@ TEST(ServerDescription, TakesAsManyComponentsAsTheListCanName) {
 TEST(ServerDescription, IsRefusedWithThePlaceAndWhatWasExpected) {
   const char* const rootKeys =
       "format, description, machine_type_model, system_name, system_creation_class_name, "
-      "local_time, sp";
+      "local_time, capture, sp";
   const char* const spKeys =
       "kind, communicates, count, management_server_stopped, dorn_library, latency_ms, "
       "command_list, components, instances, kestle_commands";
@@ -310,6 +310,37 @@ TEST(ServerDescription, IsRefusedWhenItIsNestedTooDeep) {
     objects += R"({"a":)";
   }
   EXPECT_NE(RefusalOf(objects).find("expected at most 64 levels of nesting"), std::string::npos);
+}
+
+TEST(ServerDescription, IsRefusedWhenItHasTooManyValues) {
+  // The text itself is one value, and so is the array.
+  const auto zeros = [](std::size_t count) {
+    std::string text = "[";
+    for (std::size_t i = 0; i < count; ++i) {
+      text += i == 0 ? "0" : ",0";
+    }
+    return "{\"a\":" + text + "]}";
+  };
+  EXPECT_EQ(RefusalOf(zeros(kMostDescriptionValues - 2)),
+            "test: at the top level: expected the key \"format\", got none");
+  EXPECT_EQ(RefusalOf(zeros(kMostDescriptionValues - 1)),
+            "test: at /a: expected at most 400000 values in the whole text, got more");
+}
+
+TEST(ServerDescription, ShowsWhiteSpaceInAMessageAsBlanksButNamesItInAText) {
+  const struct {
+    const char* text;
+    const char* end;
+  } cases[] = {
+      {"[\n\r\t x", "invalid literal; last read: '[    x'"},
+      {"[\"\\\"\\\\\",\n\r\t x", "invalid literal; last read: '\"\\\"\\\\\",    x'"},
+      {"[\"\\\"\n\"]",
+       "control character U+000A (LF) must be escaped to \\u000A or \\n; last read: "
+       "'\"\\\"<U+000A>'"},
+  };
+  for (const auto& one : cases) {
+    EXPECT_TRUE(RefusalOf(one.text).ends_with(one.end)) << RefusalOf(one.text);
+  }
 }
 
 TEST(ServerDescription, IsRefusedWhenItIsCutAtAnyByte) {
