@@ -1,14 +1,12 @@
 #include "fuzz/WalkChecks.h"
 
 #include "fuzz/Check.h"
-#include "plugin/config/DialRecords.h"
-#include "plugin/config/NetworkRecords.h"
+#include "plugin/config/Records.h"
 #include "plugin/config/SpClock.h"
 #include "plugin/environ/SensorDecoding.h"
 #include "tests/support/PlainRecords.h"
 
 #include <algorithm>
-#include <array>
 #include <exception>
 #include <string>
 #include <vector>
@@ -24,22 +22,8 @@ constexpr std::size_t kMostValueBytes = 255;
 // Longer than any fixed text and any decoded number.
 constexpr std::size_t kLongestFixedText = 64;
 
-struct NamedLayout {
-  const char* name;
-  RecordLayout layout;
-};
-constexpr std::array<NamedLayout, 7> kLayouts = {{
-    {"serial port", kSerialPortRecord},
-    {"dial-out settings", kDialoutRecord},
-    {"dial-in login", kDialinRecord},
-    {"dial-out alerts", kAlertRecord},
-    {"network interface", kInterfaceRecord},
-    {"DNS summary", kDnsRecord},
-    {"SNMP communities", kCommunityRecord},
-}};
-
 const RecordLayout& LayoutOf(const PlainRecord& record) {
-  return std::ranges::find(kLayouts, record.name, &NamedLayout::name)->layout;
+  return std::ranges::find(AllRecords(), record.name, &NamedRecord::name)->layout;
 }
 
 void CheckElement(const ElementCursor& element, Bytes record, const PlainElement& plain) {
@@ -116,7 +100,7 @@ void CheckWalk(Bytes record, std::size_t number) {
 }
 
 void CheckDecoders(ByteView value) {
-  for (const NamedLayout& named : kLayouts) {
+  for (const NamedRecord& named : AllRecords()) {
     for (const RecordField& field : named.layout.fields) CheckDecoder(field.decode, value);
   }
 }
