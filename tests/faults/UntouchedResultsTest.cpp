@@ -4,6 +4,7 @@
 #include "plugin/config/SharedIdentifiers.h"
 #include "plugin/frame/ModuleEntry.h"
 #include "tests/support/FaultyObserver.h"
+#include "tests/support/Places.h"
 #include "tests/support/Recorder.h"
 #include "tests/support/WholeCollection.h"
 
@@ -19,7 +20,7 @@ using platform::ServerDescription;
 using FaultyRecorder = FaultyObserver<Recorder>;
 
 ServerDescription ServerNamed(const std::string& name) {
-  return platform::ReadServerDescription(std::filesystem::path(STRAKE_SOURCE_DIR) / "servers" /
+  return platform::ReadServerDescription(std::filesystem::path(SourceFolder()) / "servers" /
                                          (name + ".server.json"));
 }
 

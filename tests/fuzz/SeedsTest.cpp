@@ -2,7 +2,7 @@
 #include "fuzz/Harnesses.h"
 #include "fuzz/KnownCommands.h"
 #include "fuzz/Seeds.h"
-#include "fuzz/ServerBytes.h"
+#include "tests/support/Places.h"
 
 #include <filesystem>
 #include <gtest/gtest.h>
@@ -15,7 +15,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-const fs::path kSource = STRAKE_SOURCE_DIR;
+const fs::path kSource = SourceFolder();
 
 std::set<std::string> NamesIn(const fs::path& folder) {
   std::set<std::string> names;
