@@ -58,6 +58,9 @@ void ForwardingObserver::OnDiscoverSPs(int result) {
 void ForwardingObserver::OnComponentCount(std::span<const unsigned char> identifier, int result) {
   ForEach(&BoundaryObserver::OnComponentCount, identifier, result);
 }
+void ForwardingObserver::OnReplyBuffer(std::span<const unsigned char> bytes) {
+  ForEach(&BoundaryObserver::OnReplyBuffer, bytes);
+}
 void ForwardingObserver::OnDotSend(const platform::DotSend& send) {
   ForEach(&BoundaryObserver::OnDotSend, send);
 }

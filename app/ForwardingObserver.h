@@ -30,6 +30,7 @@ class ForwardingObserver : public platform::BoundaryObserver {
   void OnSpQuestion(const char* call, bool result) override;
   void OnDiscoverSPs(int result) override;
   void OnComponentCount(std::span<const unsigned char> identifier, int result) override;
+  void OnReplyBuffer(std::span<const unsigned char> bytes) override;
   void OnDotSend(const platform::DotSend& send) override;
   void OnKestleSend(const platform::KestleSend& send) override;
 

@@ -2,6 +2,7 @@
 #include "bench/Floor.h"
 #include "bench/Groups.h"
 #include "bench/Ratios.h"
+#include "platform/boundary/BoundaryObserver.h"
 #include "platform/hostcore/HostControl.h"
 #include "platform/hostcore/Repository.h"
 #include "platform/pluginmanager/ManagerControl.h"

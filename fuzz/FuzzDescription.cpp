@@ -2,9 +2,9 @@
 #include "fuzz/Harnesses.h"
 #include "fuzz/RunServer.h"
 #include "platform/server/ServerDescription.h"
+#include "tests/support/WholeCollection.h"
 
 #include <algorithm>
-#include <array>
 #include <optional>
 #include <string_view>
 
@@ -33,18 +33,6 @@ std::optional<ServerDescription> Parse(std::string_view text) {
   }
 }
 
-// What the command asks in one query.
-const Query& QueryOf(std::size_t number) {
-  static const std::array<Query, 4> queries = {{
-      {kIPProtocolEndpoint, kIPProtocolEndpoint2},
-      {kDialProtocolEndpoint1, kDialProtocolEndpoint2, kDialProtocolEndpoint3,
-       kDialProtocolEndpoint4},
-      {kNumericSensor},
-      {kSPComputerSystem},
-  }};
-  return queries.at(number % queries.size());
-}
-
 }  // namespace
 
 int FuzzDescription(const std::uint8_t* data, std::size_t size) {
@@ -53,7 +41,7 @@ int FuzzDescription(const std::uint8_t* data, std::size_t size) {
   if (!server) return 0;
   server->sp.latencyMs = 0;
   server->sp.count = std::clamp(server->sp.count, -1, 4);
-  RunServer({.server = *server, .queries = {QueryOf(size)}, .trouble = {}});
+  RunServer({.server = *server, .queries = tests::WholeCollectionQueries(), .trouble = {}});
   return 0;
 }
 

@@ -1,5 +1,6 @@
 #include "fuzz/KnownCommands.h"
 #include "fuzz/Seeds.h"
+#include "tests/support/WholeCollection.h"
 
 #include <array>
 #include <cstdint>
@@ -11,6 +12,8 @@ using platform::Fault;
 using platform::Reply;
 using platform::ReplySequence;
 using platform::SpKind;
+using tests::WholeCollection;
+using tests::WholeCollectionQueries;
 
 std::string Fill(unsigned char byte, std::size_t count) {
   std::string bytes(count, static_cast<char>(byte));

@@ -3,41 +3,19 @@
 // are left alone. Built with sanitizers it needs tests/lsan.supp, as everything
 // that runs the plug-in does:
 //   LSAN_OPTIONS=suppressions=tests/lsan.supp build/fuzz/bin/make_seeds servers fuzz/corpus
+#include "fuzz/Harnesses.h"
 #include "fuzz/Seeds.h"
 
-#include <algorithm>
 #include <exception>
-#include <filesystem>
 #include <fstream>
 #include <iostream>
-#include <iterator>
 #include <span>
+#include <stdexcept>
 
 namespace strake::fuzz {
 namespace {
 
 namespace fs = std::filesystem;
-
-constexpr std::string_view kExtension = ".server.json";
-
-std::string ReadFile(const fs::path& file) {
-  std::ifstream in(file, std::ios::binary);
-  if (!in) throw std::runtime_error(file.string() + ": cannot be read");
-  return {std::istreambuf_iterator<char>(in), {}};
-}
-
-std::vector<NamedServer> ReadServers(const fs::path& folder) {
-  std::vector<NamedServer> servers;
-  for (const fs::directory_entry& entry : fs::directory_iterator(folder)) {
-    std::string name = entry.path().filename().string();
-    if (!name.ends_with(kExtension)) continue;
-    name.resize(name.size() - kExtension.size());
-    servers.push_back({name, ReadFile(entry.path()), platform::ReadServerDescription(entry)});
-  }
-  if (servers.empty()) throw std::runtime_error(folder.string() + ": holds no server");
-  std::ranges::sort(servers, {}, &NamedServer::name);
-  return servers;
-}
 
 void Write(const Seeds& seeds, const fs::path& folder) {
   fs::create_directories(folder);
@@ -47,15 +25,6 @@ void Write(const Seeds& seeds, const fs::path& folder) {
     if (!out.flush()) throw std::runtime_error((folder / name).string() + ": cannot be written");
   }
   std::cout << seeds.size() << " seeds in " << folder.string() << '\n';
-}
-
-void MakeSeeds(const fs::path& serverFolder, const fs::path& corpus) {
-  const std::vector<NamedServer> servers = ReadServers(serverFolder);
-  Seeds query = QuerySeeds(servers);
-  query.merge(HostileQuerySeeds());
-  Write(query, corpus / "query");
-  Write(WalkSeeds(servers), corpus / "walk");
-  Write(DescriptionSeeds(servers), corpus / "description");
 }
 
 }  // namespace
@@ -68,7 +37,11 @@ int main(int count, char** values) {
     return 2;
   }
   try {
-    strake::fuzz::MakeSeeds(arguments[1], arguments[2]);
+    const auto servers = strake::fuzz::ReadServers(arguments[1]);
+    const std::filesystem::path corpus = arguments[2];
+    for (const strake::fuzz::Harness& harness : strake::fuzz::kHarnesses) {
+      strake::fuzz::Write(strake::fuzz::SeedsOf(harness.name, servers), corpus / harness.name);
+    }
     return 0;
   } catch (const std::exception& error) {
     std::cerr << "make_seeds: " << error.what() << '\n';

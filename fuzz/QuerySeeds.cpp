@@ -2,10 +2,15 @@
 #include "platform/session/HostSession.h"
 #include "plugin/config/SharedIdentifiers.h"
 #include "plugin/frame/ModuleEntry.h"
+#include "tests/support/WholeCollection.h"
 
 #include <set>
 
 namespace strake::fuzz {
+
+using tests::WholeCollection;
+using tests::WholeCollectionQueries;
+
 namespace {
 
 // Which commands a query sends.
@@ -47,24 +52,6 @@ ServerCase CutDown(platform::ServerDescription server, const Query& query) {
   session.Detach();
   recorder.EraseOthers(server.sp);
   return {server, {query}, {}};
-}
-
-const std::vector<NamedQuery>& WholeCollection() {
-  static const std::vector<NamedQuery> queries = {
-      {"network", {kIPProtocolEndpoint, kIPProtocolEndpoint2}},
-      {"dial",
-       {kDialProtocolEndpoint1, kDialProtocolEndpoint2, kDialProtocolEndpoint3,
-        kDialProtocolEndpoint4}},
-      {"sensors", {kNumericSensor}},
-      {"system", {kSPComputerSystem}},
-  };
-  return queries;
-}
-
-std::vector<Query> WholeCollectionQueries() {
-  std::vector<Query> queries;
-  for (const NamedQuery& query : WholeCollection()) queries.push_back(query.classes);
-  return queries;
 }
 
 Seeds QuerySeeds(const std::vector<NamedServer>& servers) {

@@ -1,10 +1,13 @@
-// What the fuzzers start from.
+// What the fuzzers start from. fuzz/corpus holds exactly these seeds; what a
+// fuzzer finds becomes one of them.
 #pragma once
 
 #include "fuzz/ServerBytes.h"
 
+#include <filesystem>
 #include <map>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace strake::fuzz {
@@ -18,14 +21,13 @@ struct NamedServer {
 // A seed's file name and its bytes.
 using Seeds = std::map<std::string, std::string>;
 
-struct NamedQuery {
-  std::string name;
-  Query classes;
-};
+// A file's bytes. Throws std::runtime_error.
+std::string ReadBytes(const std::filesystem::path& file);
+// The *.server.json of a folder, by name. Throws when there is none.
+std::vector<NamedServer> ReadServers(const std::filesystem::path& folder);
 
-// As few queries as bring every class.
-const std::vector<NamedQuery>& WholeCollection();
-std::vector<Query> WholeCollectionQueries();
+// What a harness (Harnesses.h) starts from.
+Seeds SeedsOf(std::string_view harness, const std::vector<NamedServer>& servers);
 
 // The server with one service processor and nothing that the query does not ask
 // it for, which is what a fuzzer gets through quickly.
@@ -35,6 +37,8 @@ ServerCase CutDown(platform::ServerDescription server, const Query& query);
 Seeds QuerySeeds(const std::vector<NamedServer>& servers);
 // Servers whose replies are not to be believed, and hosts that fail.
 Seeds HostileQuerySeeds();
+// What the servers' collections bring, cut down, and instances of any text.
+Seeds ReportSeeds(const std::vector<NamedServer>& servers);
 // The replies of the servers and records that hold nothing but trouble.
 Seeds WalkSeeds(const std::vector<NamedServer>& servers);
 // The servers' texts without blanks, cut ones, and JSON that is odd.

@@ -8,8 +8,8 @@
 //   flags        bits 0-1 the kind (Orlo, Tavit, both, none), bits 2-7: does not
 //                communicate, management server runs, Dorn library, no command
 //                list, machine type throws, system name throws
-//   trouble      what goes wrong, modulo 6 (platform::Fault); unless it is none,
-//                a word follows: at which boundary call, counted from 1
+//   trouble      what goes wrong, its place in kFaults, in four bits; unless it is
+//                none, a word follows: at which boundary call, counted from 1
 //   queries      their number - 1 in two bits; each: the number of its classes in
 //                four bits, and of each its place in kClassNames, or from 8 to 15
 //                a text
@@ -22,8 +22,8 @@
 //   Kestle       the number of codes; each: the code and its replies
 //
 //   wide number  below 240: its value in two bits; else a 32-bit number follows
-//   command      modulo one more than there are known ones (KnownCommands.h),
-//                with the instance number when it has one; the last is a text
+//   command      its number in seven bits (KnownCommands.h), with the instance number when it has
+//                one; a text behind a number that no command has
 //   replies      their number - 1 in three bits, and that many of
 //   reply        bits 0-1 the form: bytes behind a byte that counts them, behind a
 //                word; a text and how many bytes it is repeated over (a word); a
@@ -65,7 +65,18 @@ inline constexpr std::size_t kMostInstances = 7;
 inline constexpr std::size_t kMostReplies = 8;  // of a command
 inline constexpr std::size_t kMostReplyBytes = 0x1FFF;
 
-// In the order in which the form numbers them.
+// In the order in which the form numbers them: a new one stands behind the others.
+inline constexpr std::array kFaults = {
+    platform::Fault::None,
+    platform::Fault::StandardException,
+    platform::Fault::OtherException,
+    platform::Fault::EmptyHandle,
+    platform::Fault::SendFails,
+    platform::Fault::SendIsEmpty,
+    platform::Fault::OutOfMemory,
+    platform::Fault::UntouchedHandle,
+    platform::Fault::UntouchedLength,
+};
 inline constexpr std::array<std::string_view, 8> kClassNames = {
     kSPComputerSystem,      kIPProtocolEndpoint,    kIPProtocolEndpoint2,   kDialProtocolEndpoint1,
     kDialProtocolEndpoint2, kDialProtocolEndpoint3, kDialProtocolEndpoint4, kNumericSensor,

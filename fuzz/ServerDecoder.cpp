@@ -20,11 +20,10 @@ std::int32_t ReadWide(ByteReader& in) {
 }
 
 Identifier ReadCommand(ByteReader& in) {
-  const auto& known = KnownCommands();
-  const std::size_t place = in.Byte() % (known.size() + 1);
-  if (place == known.size()) return in.Text();
-  Identifier identifier = known[place].identifier;
-  if (known[place].isNumbered) identifier.at(kInstancePlace) = static_cast<char>(in.Byte());
+  const KnownCommand* const command = CommandNumbered(in.Byte());
+  if (command == nullptr) return in.Text();
+  Identifier identifier = command->identifier;
+  if (command->isNumbered) identifier.at(kInstancePlace) = static_cast<char>(in.Byte());
   return identifier;
 }
 
@@ -72,7 +71,8 @@ ReplySequence ReadReplies(ByteReader& in) {
 }
 
 Trouble ReadTrouble(ByteReader& in) {
-  Trouble trouble{static_cast<platform::Fault>(in.Byte() % 6U), 0};
+  const std::size_t number = in.Byte() & 15U;
+  Trouble trouble{number < kFaults.size() ? kFaults.at(number) : platform::Fault::None, 0};
   if (trouble.fault != platform::Fault::None) trouble.atCall = in.Word();
   return trouble;
 }

@@ -42,9 +42,10 @@ bool Names(const KnownCommand& command, const Identifier& identifier) {
 
 void WriteCommand(ByteWriter& out, const Identifier& identifier) {
   const auto& known = KnownCommands();
-  const auto found = std::ranges::find_if(
-      known, [&](const KnownCommand& command) { return Names(command, identifier); });
-  out.Byte(static_cast<std::size_t>(found - known.begin()));
+  const auto found = std::ranges::find_if(known, [&](const KnownCommand& command) {
+    return command.number && Names(command, identifier);
+  });
+  out.Byte(found == known.end() ? kUnnumbered : *found->number);
   if (found == known.end()) {
     out.Text(identifier);
   } else if (found->isNumbered) {
@@ -110,7 +111,8 @@ std::size_t Flags(const platform::ServerDescription& server) {
 }
 
 void WriteTrouble(ByteWriter& out, const Trouble& trouble) {
-  out.Byte(static_cast<std::size_t>(trouble.fault));
+  const auto* const number = std::ranges::find(kFaults, trouble.fault);
+  out.Byte(static_cast<std::size_t>(number - kFaults.begin()));
   if (trouble.fault != platform::Fault::None) out.Word(trouble.atCall);
 }
 

@@ -1,41 +1,41 @@
 #include "fuzz/WalkChecks.h"
 
 #include "fuzz/Check.h"
-#include "plugin/config/DialRecords.h"
-#include "plugin/config/NetworkRecords.h"
+#include "plugin/config/Records.h"
 #include "plugin/config/SpClock.h"
 #include "plugin/environ/SensorDecoding.h"
+#include "tests/support/PlainRecords.h"
 
 #include <algorithm>
-#include <array>
 #include <exception>
 #include <string>
+#include <vector>
 
 namespace strake::fuzz {
+
+using tests::PlainElement;
+using tests::PlainRecord;
+
 namespace {
 
 constexpr std::size_t kMostValueBytes = 255;
 // Longer than any fixed text and any decoded number.
 constexpr std::size_t kLongestFixedText = 64;
 
-constexpr std::array<RecordLayout, 7> kLayouts = {
-    kSerialPortRecord, kDialoutRecord, kDialinRecord,    kAlertRecord,
-    kInterfaceRecord,  kDnsRecord,     kCommunityRecord,
-};
+const RecordLayout& LayoutOf(const PlainRecord& record) {
+  return std::ranges::find(AllRecords(), record.name, &NamedRecord::name)->layout;
+}
 
-// The plain reading: no view, no cursor.
-std::size_t At(Bytes bytes, std::size_t place) { return place < bytes.size() ? bytes[place] : 0; }
-
-void CheckElement(const ElementCursor& element, Bytes record, std::size_t start) {
-  const std::size_t length = At(record, start + 2);
-  const std::size_t maximum = At(record, start + 3);
-  Check(element.VectorId() == At(record, start), "the walk stands where the bytes say");
-  Check(element.Header() == At(record, start + 1), "the second header byte follows the first");
-  Check(element.DataLength() == length, "the data length is the third byte");
-  Check(element.MaximumLength() == maximum, "the maximum is the first data byte");
-  CheckView(element.Data(), record, start + 3, length);
-  CheckView(element.Characters(), record, start + 4, length);
-  CheckView(element.BoundedCharacters(), record, start + 4, std::min(length, maximum));
+void CheckElement(const ElementCursor& element, Bytes record, const PlainElement& plain) {
+  const auto length = static_cast<std::size_t>(plain.length);
+  const auto maximum = static_cast<std::size_t>(plain.maximum);
+  Check(element.VectorId() == plain.vectorId, "the walk stands where the bytes say");
+  Check(element.Header() == plain.header, "the second header byte follows the first");
+  Check(element.DataLength() == plain.length, "the data length is the third byte");
+  Check(element.MaximumLength() == plain.maximum, "the maximum is the first data byte");
+  CheckView(element.Data(), record, plain.start + 3, length);
+  CheckView(element.Characters(), record, plain.start + 4, length);
+  CheckView(element.BoundedCharacters(), record, plain.start + 4, std::min(length, maximum));
 }
 
 // The text replaces another, holds no zero and no more bytes than the value or a
@@ -49,10 +49,13 @@ void CheckDecoder(ValueDecoder decode, ByteView value) {
         "a decoded text is no longer than what it was decoded from");
 }
 
-void CheckField(const RecordField& field, const ElementCursor& element) {
+void CheckField(const RecordField& field, const ElementCursor& element, const PlainElement& plain) {
   const ByteView value = FieldValue(element, field.form);
   Check(value.Size() <= kMostValueBytes, "a value is at most 255 bytes long");
   CheckDecoder(field.decode, value);
+  std::string text;
+  field.decode(value, text);
+  Check(text == plain.text, "a value reads as a plain reading has it");
 }
 
 bool IsByte(std::int32_t number) { return number >= 0 && number <= 0xFF; }
@@ -73,30 +76,32 @@ void CheckView(ByteView view, Bytes all, std::size_t begin, std::size_t count) {
   Check(view.Text().size() == firstZero, "a text ends before the first zero byte");
 }
 
-void CheckWalk(Bytes record, std::size_t layout) {
+void CheckWalk(Bytes record, std::size_t number) {
   // Three bytes a step or more: it has come round by then, or stands.
   constexpr int kSteps = 100;
-  const ByteView view(record);
-  ElementCursor element(view);
+  const PlainRecord& plain = tests::PlainRecords().at(number % tests::PlainRecords().size());
+  const std::vector<PlainElement> elements = tests::ReadPlainly(plain, record);
+  ElementCursor element{ByteView(record)};
   std::size_t start = 0;
   const auto advance = [&] {
     element.Advance();
-    start = (start + 3 + At(record, start + 2)) % 256;
+    start = tests::PlainNext(record, start);
   };
-  for (const RecordField& field : kLayouts.at(layout % kLayouts.size()).fields) {
-    CheckElement(element, record, start);
-    CheckField(field, element);
+  for (std::size_t i = 0; i < elements.size(); ++i) {
+    CheckElement(element, record, elements[i]);
+    CheckField(LayoutOf(plain).fields[i], element, elements[i]);
     advance();
   }
   for (int step = 0; step < kSteps; ++step) {
-    Check(element.VectorId() == At(record, start), "the position stays below 256");
+    const std::size_t vectorId = start < record.size() ? record[start] : 0;
+    Check(element.VectorId() == vectorId, "the position stays below 256");
     advance();
   }
 }
 
 void CheckDecoders(ByteView value) {
-  for (const RecordLayout& layout : kLayouts) {
-    for (const RecordField& field : layout.fields) CheckDecoder(field.decode, value);
+  for (const NamedRecord& named : AllRecords()) {
+    for (const RecordField& field : named.layout.fields) CheckDecoder(field.decode, value);
   }
 }
 

@@ -3,6 +3,7 @@
 
 #include "platform/boundary/BoundaryObserver.h"
 
+#include <new>
 #include <stdexcept>
 
 namespace strake::platform {
@@ -19,6 +20,9 @@ inline Fault BeginCall(BoundaryObserver* observer, BoundaryCall call) {
   }
   if (fault == Fault::OtherException) {
     throw int{1};
+  }
+  if (fault == Fault::OutOfMemory) {
+    throw std::bad_alloc();
   }
   return fault;
 }

@@ -3,11 +3,13 @@
 // the tests) and may ask for faults (the tests).
 #pragma once
 
-#include "plugin/host/TCIMValue.h"
-
 #include <span>
 #include <string>
 #include <vector>
+
+namespace NVELKZEV20 {
+class TCIMValue;
+}
 
 namespace strake::platform {
 
@@ -37,11 +39,22 @@ enum class Fault {
   EmptyHandle,        // GetClass, CreateInstance
   SendFails,          // the sends: false, length 0, no bytes
   SendIsEmpty,        // the sends: true, length 0, no bytes
+  OutOfMemory,        // throws std::bad_alloc
+  UntouchedHandle,    // GetClass, CreateInstance: the handle stays what it was
+  UntouchedLength,    // the sends: as ever, but no length is written
 };
+
+// The exceptions among them.
+constexpr bool Throws(Fault fault) {
+  return fault == Fault::StandardException || fault == Fault::OtherException ||
+         fault == Fault::OutOfMemory;
+}
 
 struct DotSend {
   int commandClass = 0;
   std::span<const unsigned char> identifier;
+  int secondLength = 0;
+  const unsigned char* extraData = nullptr;
   int sp = 0;
   int size = 0;
   bool result = false;
@@ -54,6 +67,7 @@ struct KestleSend {
   int code = 0;
   int expected = 0;
   int checksum = 0;
+  const unsigned char* data = nullptr;
   int dataLength = 0;
   bool acknowledge = false;
   bool isRead = false;
@@ -89,6 +103,8 @@ class BoundaryObserver {
   virtual void OnSpQuestion(const char* /*call*/, bool /*result*/) {}
   virtual void OnDiscoverSPs(int /*result*/) {}
   virtual void OnComponentCount(std::span<const unsigned char> /*identifier*/, int /*result*/) {}
+  // The reply buffer as a send finds it; how the send ends is told after it.
+  virtual void OnReplyBuffer(std::span<const unsigned char> /*bytes*/) {}
   virtual void OnDotSend(const DotSend& /*send*/) {}
   virtual void OnKestleSend(const KestleSend& /*send*/) {}
 };

@@ -2,6 +2,7 @@
 
 #include "platform/boundary/BeginCall.h"
 #include "platform/hostcore/HostControl.h"
+#include "platform/server/HostSettings.h"
 
 #include <exception>
 #include <stdexcept>

@@ -2,14 +2,14 @@
 // lines go. The plug-in does not see any of this.
 #pragma once
 
-#include "platform/boundary/BoundaryObserver.h"
-#include "platform/server/ServerDescription.h"
-
 #include <functional>
 #include <stdexcept>
 #include <string>
 
 namespace strake::platform {
+
+class BoundaryObserver;
+struct HostSettings;
 
 using LogSink = std::function<void(int level, const std::string& message)>;
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/hostcore/HostControl.h"
+#include "platform/server/HostSettings.h"
 
 namespace strake::platform {
 

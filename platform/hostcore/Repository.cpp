@@ -19,9 +19,11 @@ void Repository::GetClass(boost::shared_ptr<ICIMClass>& cimClass, const std::str
                           NVELKZEV20::ContextMap /*context*/) {
   BoundaryObserver* const observer = HostObserver();
   const Fault fault = BeginCall(observer, BoundaryCall::GetClass);
-  const cim::SchemaClass* const found =
-      fault == Fault::EmptyHandle ? nullptr : cim::FindSchemaClass(name);
-  cimClass.reset();
+  const bool makesNone = fault == Fault::EmptyHandle || fault == Fault::UntouchedHandle;
+  const cim::SchemaClass* const found = makesNone ? nullptr : cim::FindSchemaClass(name);
+  if (fault != Fault::UntouchedHandle) {
+    cimClass.reset();
+  }
   if (found != nullptr) {
     cimClass = boost::make_shared<RepositoryClass>(fState, name, found);
   }

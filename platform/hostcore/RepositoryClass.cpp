@@ -21,7 +21,11 @@ std::string RepositoryClass::GetName() const {
 void RepositoryClass::CreateInstance(boost::shared_ptr<NVELKZEV20::ICIMInstance>& instance,
                                      const NVELKZEV20::TNameToValueMap& /*options*/) {
   BoundaryObserver* const observer = HostObserver();
-  if (BeginCall(observer, BoundaryCall::CreateInstance) == Fault::EmptyHandle) {
+  const Fault fault = BeginCall(observer, BoundaryCall::CreateInstance);
+  if (fault == Fault::UntouchedHandle) {
+    return;
+  }
+  if (fault == Fault::EmptyHandle) {
     instance.reset();
     return;
   }

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "platform/server/Field.h"
-#include "platform/server/ServerDescription.h"
+#include "platform/server/Reply.h"
 
 namespace strake::platform {
 

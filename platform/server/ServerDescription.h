@@ -1,64 +1,18 @@
-// How one server and its service processors answer: plain data that the
-// stand-ins are loaded with, and the reader of its JSON text (*.server.json).
+// How one server and its service processors answer, and the reader of its JSON
+// text (*.server.json).
 #pragma once
 
-#include "plugin/host/TCIMDateTime.h"
+#include "platform/server/HostSettings.h"
+#include "platform/server/SpDescription.h"
 
+#include <cstddef>
 #include <cstdio>
 #include <filesystem>
-#include <map>
-#include <optional>
 #include <stdexcept>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace strake::platform {
-
-// The answer of a host call that may throw.
-struct HostAnswer {
-  std::string text;  // the result, or the text of the exception
-  bool throws = false;
-};
-
-struct HostSettings {
-  HostAnswer machineTypeModel{"9999-AC1", false};
-  HostAnswer systemName{"SRV1", false};
-  std::string systemCreationClassName = "CIM_ComputerSystem";
-  std::optional<NVELKZEV20::TCIMDateTime> localTime;  // empty: the real local time
-};
-
-struct Reply {
-  std::string bytes;
-  int length = 0;  // as reported; any number
-  bool succeeds = true;
-};
-
-// The first send gets the first reply, and so on; the last one stays.
-// Never empty.
-using ReplySequence = std::vector<Reply>;
-
-// An identifier's bytes, as a string so that it orders and compares as bytes.
-using Identifier = std::string;
-
-enum class SpKind { Orlo, Tavit, Both, None };
-
-// The most components that the three 4096-byte list buffers can name.
-inline constexpr std::size_t kMostComponents = 800;
-
-struct SpDescription {
-  SpKind kind = SpKind::None;
-  bool communicates = true;
-  int count = 0;
-  bool managementServerStopped = true;
-  bool dornLibrary = false;
-  double latencyMs = 0;
-  bool commandList = true;
-  // Five identifier bytes, the fourth of them 0, to an instance count 0 to 254.
-  std::map<Identifier, int> components;
-  std::vector<std::map<Identifier, ReplySequence>> instances;
-  std::map<unsigned char, ReplySequence> kestleCommands;
-};
 
 struct ServerDescription {
   std::string description;

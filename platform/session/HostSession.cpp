@@ -1,6 +1,8 @@
 #include "platform/session/HostSession.h"
 
+#include "platform/boundary/BoundaryObserver.h"
 #include "platform/pluginmanager/ManagerControl.h"
+#include "platform/server/ServerDescription.h"
 #include "platform/spdriver/DriverControl.h"
 #include "plugin/frame/ModuleEntry.h"
 

@@ -2,10 +2,8 @@
 // module, query, detach.
 #pragma once
 
-#include "platform/boundary/BoundaryObserver.h"
 #include "platform/hostcore/HostControl.h"
 #include "platform/hostcore/Repository.h"
-#include "platform/server/ServerDescription.h"
 #include "plugin/host/IPluginCallbacks.h"
 
 #include <boost/shared_ptr.hpp>
@@ -14,6 +12,9 @@
 #include <vector>
 
 namespace strake::platform {
+
+class BoundaryObserver;
+struct ServerDescription;
 
 // The module's entry: reason 1 attaches, 0 detaches; the result is 0 on failure.
 using ModuleEntry = int (*)(unsigned int reason);

@@ -14,6 +14,8 @@ struct dotCmdContent {
     }
     return {command.fIdentifier, static_cast<std::size_t>(command.fIdentifierLength)};
   }
+  static int SecondLength(const dotCmd& command) { return command.fSecondLength; }
+  static const unsigned char* ExtraData(const dotCmd& command) { return command.fExtraData; }
 };
 
 struct KestleCmdContent {
@@ -21,6 +23,7 @@ struct KestleCmdContent {
   static int Code(const KestleCmd& command) { return command.fCommandCode; }
   static int ExpectedCode(const KestleCmd& command) { return command.fExpectedCode; }
   static int Checksum(const KestleCmd& command) { return command.fChecksum; }
+  static const unsigned char* Data(const KestleCmd& command) { return command.fCommandData; }
   static int DataLength(const KestleCmd& command) { return command.fCommandDataLength; }
   static bool Acknowledge(const KestleCmd& command) { return command.fAcknowledge; }
   static bool IsRead(const KestleCmd& command) { return command.fIsRead; }

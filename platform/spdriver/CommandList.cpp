@@ -1,5 +1,7 @@
 #include "platform/spdriver/CommandList.h"
 
+#include "platform/server/SpDescription.h"
+
 #include <algorithm>
 #include <cstdint>
 

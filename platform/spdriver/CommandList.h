@@ -9,7 +9,7 @@
 // r % 3 at place r / 3. The rest is zero.
 #pragma once
 
-#include "platform/server/ServerDescription.h"
+#include "platform/server/Reply.h"
 
 #include <array>
 #include <cstddef>

@@ -1,5 +1,8 @@
 #include "platform/spdriver/Delivery.h"
 
+#include "platform/boundary/BoundaryObserver.h"
+#include "platform/server/Reply.h"
+
 #include <algorithm>
 #include <cstddef>
 
@@ -28,18 +31,19 @@ const Reply* FaultReply(Fault fault) {
   return nullptr;
 }
 
-Delivery Deliver(const Reply* reply, unsigned char* buffer, int size, int* length) {
+Delivery Deliver(const Reply* reply, const ReplyPlace& place) {
   const Reply& given = reply == nullptr ? FailedReply() : *reply;
-  if (length != nullptr) {
-    *length = given.length;
-  }
   Delivery delivery{given.succeeds, given.length, {}};
-  if (buffer == nullptr || size <= 0) {
-    return delivery;
+  if (place.length != nullptr) {
+    if (!place.lengthStays) {
+      *place.length = given.length;
+    }
+    delivery.length = *place.length;
   }
-  const std::size_t count = std::min(given.bytes.size(), static_cast<std::size_t>(size));
-  std::copy_n(given.bytes.begin(), count, buffer);
-  delivery.bytes = {buffer, count};
+  const std::span<unsigned char> room = place.Room();
+  const std::size_t count = std::min(given.bytes.size(), room.size());
+  std::copy_n(given.bytes.begin(), count, room.begin());
+  delivery.bytes = room.first(count);
   return delivery;
 }
 

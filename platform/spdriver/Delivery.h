@@ -1,16 +1,17 @@
 // One reply on its way into the caller's buffer.
 #pragma once
 
-#include "platform/boundary/BoundaryObserver.h"
-#include "platform/server/ServerDescription.h"
-
+#include <cstddef>
 #include <span>
 
 namespace strake::platform {
 
+enum class Fault;
+struct Reply;
+
 struct Delivery {
   bool result = false;
-  int length = 0;                        // as reported
+  int length = 0;                        // as the caller finds it
   std::span<const unsigned char> bytes;  // those written, in the caller's buffer
 };
 
@@ -18,8 +19,23 @@ struct Delivery {
 // when the service processor shall answer.
 const Reply* FaultReply(Fault fault);
 
-// Writes at most `size` bytes of the reply, and the length as it reports it.
-// A null reply is a command that fails.
-Delivery Deliver(const Reply* reply, unsigned char* buffer, int size, int* length);
+// Where a caller wants its reply.
+struct ReplyPlace {
+  unsigned char* buffer = nullptr;
+  int size = 0;
+  int* length = nullptr;
+  bool lengthStays = false;  // nothing is written there
+
+  [[nodiscard]] std::span<unsigned char> Room() const {
+    if (buffer == nullptr || size <= 0) {
+      return {};
+    }
+    return {buffer, static_cast<std::size_t>(size)};
+  }
+};
+
+// Writes as many bytes of the reply as there is room for, and the length as the
+// reply reports it. A null reply is a command that fails.
+Delivery Deliver(const Reply* reply, const ReplyPlace& place);
 
 }  // namespace strake::platform

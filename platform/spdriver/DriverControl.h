@@ -1,10 +1,10 @@
 // Loads the simulated SP driver with the service processors that it stands for.
 #pragma once
 
-#include "platform/boundary/BoundaryObserver.h"
-#include "platform/server/ServerDescription.h"
-
 namespace strake::platform {
+
+class BoundaryObserver;
+struct SpDescription;
 
 // Every reply sequence starts again at its first reply.
 void SetServiceProcessors(const SpDescription& description);

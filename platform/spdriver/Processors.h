@@ -2,8 +2,7 @@
 // each of their reply sequences has come.
 #pragma once
 
-#include "platform/boundary/BoundaryObserver.h"
-#include "platform/server/ServerDescription.h"
+#include "platform/server/SpDescription.h"
 
 #include <cstddef>
 #include <map>
@@ -11,6 +10,8 @@
 #include <vector>
 
 namespace strake::platform {
+
+class BoundaryObserver;
 
 class Processors {
  public:

@@ -16,6 +16,7 @@ using strake::platform::BoundaryCall;
 using strake::platform::CountInList;
 using strake::platform::Deliver;
 using strake::platform::Delivery;
+using strake::platform::DotSend;
 using strake::platform::DriverState;
 using strake::platform::Fault;
 using strake::platform::FaultReply;
@@ -23,6 +24,7 @@ using strake::platform::kComponentIdentifierBytes;
 using strake::platform::KestleSend;
 using strake::platform::kListBufferBytes;
 using strake::platform::Reply;
+using strake::platform::ReplyPlace;
 using strake::platform::SpDescription;
 using strake::platform::SpKind;
 using strake::platform::TheDriver;
@@ -45,7 +47,11 @@ bool Ask(const char* call, Question question) {
   return result;
 }
 
-void WaitForCommand() {
+// Tells of the buffer, and takes the time that a command takes.
+void BeginSend(const ReplyPlace& place) {
+  if (TheDriver().observer != nullptr) {
+    TheDriver().observer->OnReplyBuffer(place.Room());
+  }
   const double latencyMs = TheDriver().processors.Description().latencyMs;
   if (latencyMs > 0) {
     std::this_thread::sleep_for(std::chrono::duration<double, std::milli>(latencyMs));
@@ -100,24 +106,27 @@ bool SPLibrary::sendDotCommand(dotCmd* command, unsigned char* reply, int* reply
                                int spInstance, int replySize) {
   DriverState& driver = TheDriver();
   const Fault fault = BeginCall(driver.observer, BoundaryCall::DotSend);
-  WaitForCommand();
-  std::span<const unsigned char> identifier;
-  if (command != nullptr) {
-    identifier = dotCmdContent::Identifier(*command);
-  }
+  const ReplyPlace place{reply, replySize, replyLength, fault == Fault::UntouchedLength};
+  BeginSend(place);
+  DotSend send;
+  send.sp = spInstance;
+  send.size = replySize;
   const Reply* answer = FaultReply(fault);
-  if (answer == nullptr && command != nullptr) {
-    answer = driver.processors.TakeDotReply(spInstance, identifier);
+  if (command != nullptr) {
+    send.commandClass = dotCmdContent::Class(*command);
+    send.identifier = dotCmdContent::Identifier(*command);
+    send.secondLength = dotCmdContent::SecondLength(*command);
+    send.extraData = dotCmdContent::ExtraData(*command);
+    if (answer == nullptr) {
+      answer = driver.processors.TakeDotReply(spInstance, send.identifier);
+    }
   }
-  const Delivery delivery = Deliver(answer, reply, replySize, replyLength);
+  const Delivery delivery = Deliver(answer, place);
   if (driver.observer != nullptr) {
-    driver.observer->OnDotSend({.commandClass = command ? dotCmdContent::Class(*command) : 0,
-                                .identifier = identifier,
-                                .sp = spInstance,
-                                .size = replySize,
-                                .result = delivery.result,
-                                .length = delivery.length,
-                                .reply = delivery.bytes});
+    send.result = delivery.result;
+    send.length = delivery.length;
+    send.reply = delivery.bytes;
+    driver.observer->OnDotSend(send);
   }
   return delivery.result;
 }
@@ -125,7 +134,8 @@ bool SPLibrary::sendDotCommand(dotCmd* command, unsigned char* reply, int* reply
 bool SPLibrary::sendKestleCommand(KestleCmd* command, int* replyLength, unsigned char* reply) {
   DriverState& driver = TheDriver();
   const Fault fault = BeginCall(driver.observer, BoundaryCall::KestleSend);
-  WaitForCommand();
+  const ReplyPlace place{reply, kKestleReplyBytes, replyLength, fault == Fault::UntouchedLength};
+  BeginSend(place);
   const Reply* answer = FaultReply(fault);
   KestleSend send;
   if (command != nullptr) {
@@ -133,6 +143,7 @@ bool SPLibrary::sendKestleCommand(KestleCmd* command, int* replyLength, unsigned
     send.code = KestleCmdContent::Code(*command);
     send.expected = KestleCmdContent::ExpectedCode(*command);
     send.checksum = KestleCmdContent::Checksum(*command);
+    send.data = KestleCmdContent::Data(*command);
     send.dataLength = KestleCmdContent::DataLength(*command);
     send.acknowledge = KestleCmdContent::Acknowledge(*command);
     send.isRead = KestleCmdContent::IsRead(*command);
@@ -140,7 +151,7 @@ bool SPLibrary::sendKestleCommand(KestleCmd* command, int* replyLength, unsigned
       answer = driver.processors.TakeKestleReply(static_cast<unsigned char>(send.code));
     }
   }
-  const Delivery delivery = Deliver(answer, reply, kKestleReplyBytes, replyLength);
+  const Delivery delivery = Deliver(answer, place);
   if (driver.observer != nullptr) {
     send.result = delivery.result;
     send.length = delivery.length;

@@ -111,6 +111,7 @@ class Counter : public platform::BoundaryObserver {
   void OnComponentCount(std::span<const unsigned char> /*identifier*/, int /*result*/) override {
     ++calls;
   }
+  void OnReplyBuffer(std::span<const unsigned char> /*bytes*/) override { ++calls; }
   void OnDotSend(const platform::DotSend& /*send*/) override { ++calls; }
   void OnKestleSend(const platform::KestleSend& /*send*/) override { ++calls; }
 
@@ -139,10 +140,11 @@ TEST(ForwardingObserver, TellsEveryObserverEverything) {
   both.OnSpQuestion("", true);
   both.OnDiscoverSPs(1);
   both.OnComponentCount({}, 1);
+  both.OnReplyBuffer({});
   both.OnDotSend({});
   both.OnKestleSend({});
-  EXPECT_EQ(one.calls, 17);
-  EXPECT_EQ(other.calls, 17);
+  EXPECT_EQ(one.calls, 18);
+  EXPECT_EQ(other.calls, 18);
 }
 
 }  // namespace

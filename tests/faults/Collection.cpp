@@ -1,17 +1,20 @@
 #include "tests/faults/Collection.h"
 
 #include "cim/TCIMValueContent.h"
+#include "platform/boundary/BoundaryObserver.h"
 #include "platform/session/HostSession.h"
 #include "platform/spdriver/DriverControl.h"
 #include "plugin/config/SharedIdentifiers.h"
 #include "plugin/frame/ModuleEntry.h"
 #include "tests/support/Allocations.h"
+#include "tests/support/FaultyObserver.h"
 #include "tests/support/Places.h"
+#include "tests/support/WholeCollection.h"
 
 #include <algorithm>
 #include <filesystem>
 #include <gtest/gtest.h>
-#include <new>
+#include <span>
 
 namespace strake::tests {
 namespace {
@@ -23,33 +26,40 @@ using NVELKZEV20::TCIMValueContent;
 using platform::BoundaryCall;
 using platform::Fault;
 
-// Watches one run, and troubles one of its calls. Allocates nothing itself.
-class Troublemaker : public platform::BoundaryObserver {
+// Troubles one call of a run, and keeps what was committed before it. Allocates
+// nothing itself.
+class Troublemaker : public FaultyObserver<> {
  public:
-  Troublemaker(const Trouble& trouble, std::vector<BoundaryCall>* calls)
-      : fTrouble(trouble), fKept(calls) {}
+  void Watch(const platform::Repository& repository) { fRepository = &repository; }
 
   Fault BeforeCall(BoundaryCall call) override {
-    ++fCalls;
-    if (fKept != nullptr) fKept->push_back(call);
-    if (fCalls != fTrouble.atCall) return Fault::None;
-    NoteTrouble();
-    return fTrouble.fault;
+    const Fault fault = FaultyObserver::BeforeCall(call);
+    if (fault != Fault::None) NoteTrouble();
+    return fault;
   }
-
-  void Watch(const platform::Repository& repository) { fRepository = &repository; }
-  void NoteTrouble() { fCommitsBefore = fRepository->Committed().size(); }
 
   static void NoteAllocationTrouble(void* self) { static_cast<Troublemaker*>(self)->NoteTrouble(); }
   [[nodiscard]] std::size_t CommitsBefore() const { return fCommitsBefore; }
-  void StopTrouble() { fTrouble = {}; }
 
  private:
-  Trouble fTrouble;
-  std::vector<BoundaryCall>* fKept;
-  long fCalls = 0;
+  void NoteTrouble() { fCommitsBefore = fRepository->Committed().size(); }
+
   const platform::Repository* fRepository = nullptr;
   std::size_t fCommitsBefore = static_cast<std::size_t>(-1);
+};
+
+// Keeps the kind of every call.
+class CallRecorder : public platform::BoundaryObserver {
+ public:
+  explicit CallRecorder(std::vector<BoundaryCall>& calls) : fCalls(calls) {}
+
+  Fault BeforeCall(BoundaryCall call) override {
+    fCalls.push_back(call);
+    return Fault::None;
+  }
+
+ private:
+  std::vector<BoundaryCall>& fCalls;
 };
 
 bool Equal(const NVELKZEV20::TCIMValue& a, const NVELKZEV20::TCIMValue& b) {
@@ -105,32 +115,51 @@ class ArmedQuery {
   std::vector<boost::shared_ptr<ICIMClass>> fClasses;
 };
 
-const std::vector<std::vector<std::string>> kAllQueries = {
-    {"VELKSG_ServProc_IPProtocolEndpoint", "VELKSG_ServProc_IPProtocolEndpoint2"},
-    {"VELKSG_ServProc_DialProtocolEndpoint1", "VELKSG_ServProc_DialProtocolEndpoint2",
-     "VELKSG_ServProc_DialProtocolEndpoint3", "VELKSG_ServProc_DialProtocolEndpoint4"},
-    {"VELKSG_SP_NumericSensor"},
-    {"VELKSG_SP_ComputerSystem"},
-};
+const std::vector<std::string>& QueryNamed(const std::string& name) {
+  return std::ranges::find(WholeCollection(), name, &NamedQuery::name)->classes;
+}
+
+void ExpectEqual(std::span<const StoredInstance> actual,
+                 const std::vector<StoredInstance>& expected, const char* what) {
+  ASSERT_EQ(actual.size(), expected.size()) << what;
+  for (std::size_t i = 0; i < expected.size(); ++i) {
+    EXPECT_TRUE(Equal(actual[i], expected[i])) << what << ", instance " << i;
+  }
+}
+
+// Gives how many calls and allocations failed.
+long RunTroubled(const std::vector<std::string>& classes, platform::HostSession& session,
+                 Troublemaker& observer, const Trouble& trouble) {
+  ArmedQuery query(session, classes);
+  observer.Plan({.fault = trouble.fault, .atCall = trouble.atCall});
+  if (trouble.atAllocation > 0) {
+    Allocations::FailAt(trouble.atAllocation, trouble.allAllocationsAfter,
+                        &Troublemaker::NoteAllocationTrouble, &observer);
+  }
+  query.Run();
+  Allocations::FailNever();
+  observer.Plan({});
+  query.ExpectNoHandleHeld();
+  return observer.Faults() + (trouble.atAllocation > 0 ? Allocations::Failed() : 0);
+}
 
 }  // namespace
 
-Collection::Collection(const std::string& serverName)
+Collection::Collection(const std::string& serverName, const std::string& queryName)
     : fServer(platform::ReadServerDescription(std::filesystem::path(SourceFolder()) / "servers" /
                                               (serverName + ".server.json"))),
-      fQueries(kAllQueries),
-      fNextQuery(kAllQueries[fServer.sp.kind == platform::SpKind::Orlo ? 3 : 2]) {
+      fQuery(QueryNamed(queryName)),
+      fNextQuery(QueryNamed(fServer.sp.kind == platform::SpKind::Orlo ? "system" : "sensors")) {
   Identifiers() = SharedIdentifiers{};
-  Troublemaker observer({}, &fCalls);
+  CallRecorder observer(fCalls);
   platform::HostSession session(fServer, &observer);
   session.Attach(&StrakeModuleEntry);
-  for (const auto& names : fQueries) {
-    ArmedQuery query(session, names);
-    fCalls.reserve(fCalls.size() + 20000);
-    Allocations::Count();
-    EXPECT_TRUE(query.Run());
-    fAllocations += Allocations::Made();
-  }
+  ArmedQuery query(session, fQuery);
+  fCalls.clear();
+  fCalls.reserve(20000);
+  Allocations::Count();
+  EXPECT_TRUE(query.Run());
+  fAllocations = Allocations::Made();
   const auto calls = fCalls.size();
   fCommitted = session.Instances().Committed();
   EXPECT_TRUE(ArmedQuery(session, fNextQuery).Run());
@@ -140,60 +169,51 @@ Collection::Collection(const std::string& serverName)
 }
 
 std::vector<Fault> Collection::FaultsOf(long call) const {
+  std::vector<Fault> faults = {Fault::StandardException, Fault::OtherException, Fault::OutOfMemory};
   switch (fCalls[static_cast<std::size_t>(call - 1)]) {
     case BoundaryCall::DotSend:
     case BoundaryCall::KestleSend:
-      return {Fault::SendFails, Fault::SendIsEmpty, Fault::StandardException,
-              Fault::OtherException};
+      faults.insert(faults.end(), {Fault::SendFails, Fault::SendIsEmpty, Fault::UntouchedLength});
+      break;
     case BoundaryCall::GetClass:
     case BoundaryCall::CreateInstance:
-      return {Fault::EmptyHandle, Fault::StandardException, Fault::OtherException};
+      faults.insert(faults.end(), {Fault::EmptyHandle, Fault::UntouchedHandle});
+      break;
     default:
-      return {Fault::StandardException, Fault::OtherException};
+      break;
   }
+  return faults;
 }
 
-void Collection::Run(const Trouble& trouble) const {
+long Collection::Run(const Trouble& trouble) const {
   Identifiers() = SharedIdentifiers{};
   const long liveBefore = Allocations::Live();
   const long commandsBefore = platform::LiveDotCommands();
   const long kestleBefore = platform::LiveKestleCommands();
+  long met = 0;
   {
-    Troublemaker observer(trouble, nullptr);
+    Troublemaker observer;
     platform::HostSession session(fServer, &observer);
     session.Attach(&StrakeModuleEntry);
     observer.Watch(session.Instances());
     const long held = session.Namespace().use_count();
-    long allocations = 0;
-    for (const auto& names : fQueries) {
-      ArmedQuery query(session, names);
-      if (trouble.atAllocation > allocations) {
-        Allocations::FailAt(trouble.atAllocation - allocations, trouble.allAllocationsAfter,
-                            &Troublemaker::NoteAllocationTrouble, &observer);
-      }
-      Allocations::Count();
-      query.Run();
-      Allocations::FailNever();
-      allocations += Allocations::Made();
-      query.ExpectNoHandleHeld();
-    }
-    observer.StopTrouble();
+    met = RunTroubled(fQuery, session, observer, trouble);
     EXPECT_EQ(session.Namespace().use_count(), held);
 
-    const std::size_t committed = session.Instances().Committed().size();
-    for (std::size_t i = 0; i < std::min(observer.CommitsBefore(), fCommitted.size()); ++i) {
-      EXPECT_TRUE(Equal(session.Instances().Committed().at(i), fCommitted[i])) << "instance " << i;
-    }
+    const std::span<const StoredInstance> committed = session.Instances().Committed();
+    const std::size_t kept = std::min(observer.CommitsBefore(), fCommitted.size());
+    ExpectEqual(committed.first(kept),
+                {fCommitted.begin(), fCommitted.begin() + static_cast<long>(kept)},
+                "before the trouble");
+    const std::size_t before = committed.size();
     EXPECT_TRUE(ArmedQuery(session, fNextQuery).Run());
-    const auto& all = session.Instances().Committed();
-    ASSERT_EQ(all.size() - committed, fNextCommitted.size());
-    for (std::size_t i = 0; i < fNextCommitted.size(); ++i) {
-      EXPECT_TRUE(Equal(all[committed + i], fNextCommitted[i])) << "next query, instance " << i;
-    }
+    ExpectEqual(std::span(session.Instances().Committed()).subspan(before), fNextCommitted,
+                "next query");
   }
   const long presenceTests = platform::LiveDotCommands() - commandsBefore;
   EXPECT_EQ(Allocations::Live() - liveBefore, presenceTests) << "a leak";
   EXPECT_EQ(platform::LiveKestleCommands(), kestleBefore);
+  return met;
 }
 
 }  // namespace strake::tests

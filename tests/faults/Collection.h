@@ -1,5 +1,5 @@
-// A full collection of a built-in server, again and again, with one thing going
-// wrong each time; and what must hold afterwards whatever went wrong.
+// A query of a built-in server, again and again, with one thing going wrong each
+// time; and what must hold afterwards whatever went wrong.
 #pragma once
 
 #include "platform/boundary/BoundaryObserver.h"
@@ -12,7 +12,7 @@
 namespace strake::tests {
 
 // What goes wrong: a fault at the k-th boundary call, or the k-th allocation
-// (with all behind it in the same query); k counts from 1, 0 is never.
+// (with all behind it); k counts from 1, 0 is never.
 struct Trouble {
   long atCall = 0;
   platform::Fault fault = platform::Fault::None;
@@ -22,13 +22,14 @@ struct Trouble {
 
 class Collection {
  public:
-  // A server of servers/, every class of it.
-  explicit Collection(const std::string& serverName);
+  // A server of servers/, a query of the whole collection.
+  Collection(const std::string& serverName, const std::string& queryName);
 
-  // Runs every query with the trouble and expects of the end: no leak beyond
-  // the presence-test commands, no handle still held, what was committed before
-  // the trouble stands as without it, and the object answers the next query.
-  void Run(const Trouble& trouble) const;
+  // Runs the query with the trouble and expects of the end: no leak beyond the
+  // presence-test commands, no handle still held, what was committed before the
+  // trouble stands as without it, and the object answers the next query. Gives
+  // how many calls and allocations failed.
+  long Run(const Trouble& trouble) const;
 
   [[nodiscard]] long Allocations() const { return fAllocations; }
   [[nodiscard]] long BoundaryCalls() const { return static_cast<long>(fCalls.size()); }
@@ -37,7 +38,7 @@ class Collection {
 
  private:
   platform::ServerDescription fServer;
-  std::vector<std::vector<std::string>> fQueries;
+  std::vector<std::string> fQuery;
   std::vector<std::string> fNextQuery;
   // As it goes without trouble.
   std::vector<platform::BoundaryCall> fCalls;

@@ -1,6 +1,7 @@
 // Servers that answer every command with bytes that are not to be believed. The
 // sanitizers and valgrind tell whether anything was read outside a buffer.
 #include "tests/support/Scenario.h"
+#include "tests/support/WholeCollection.h"
 
 #include <gtest/gtest.h>
 #include <limits>
@@ -9,13 +10,7 @@
 namespace strake::tests {
 namespace {
 
-const std::vector<Classes> kAllQueries = {
-    {"VELKSG_ServProc_IPProtocolEndpoint", "VELKSG_ServProc_IPProtocolEndpoint2"},
-    {"VELKSG_ServProc_DialProtocolEndpoint1", "VELKSG_ServProc_DialProtocolEndpoint2",
-     "VELKSG_ServProc_DialProtocolEndpoint3", "VELKSG_ServProc_DialProtocolEndpoint4"},
-    {"VELKSG_SP_NumericSensor"},
-    {"VELKSG_SP_ComputerSystem"},
-};
+const std::vector<Classes> kAllQueries = WholeCollectionQueries();
 
 // Every identifier that the plug-in sends, for instance numbers 1 to 3.
 std::vector<std::string> AllIdentifiers() {

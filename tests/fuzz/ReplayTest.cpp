@@ -17,10 +17,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-struct Harness {
-  const char* name;  // of its folder too
-  int (*run)(const std::uint8_t* data, std::size_t size);
-};
+using fuzz::Harness;
 
 class Corpus : public testing::TestWithParam<Harness> {
  protected:
@@ -51,14 +48,10 @@ TEST_P(Corpus, EveryInputRunsThroughItsHarness) {
 TEST_P(Corpus, NoBytesAreAnInputToo) { EXPECT_EQ(GetParam().run(nullptr, 0), 0); }
 
 std::string HarnessName(const testing::TestParamInfo<Harness>& harness) {
-  return harness.param.name;
+  return std::string(harness.param.name);
 }
 
-INSTANTIATE_TEST_SUITE_P(Of, Corpus,
-                         testing::Values(Harness{"query", fuzz::FuzzQuery},
-                                         Harness{"walk", fuzz::FuzzWalk},
-                                         Harness{"description", fuzz::FuzzDescription}),
-                         HarnessName);
+INSTANTIATE_TEST_SUITE_P(Of, Corpus, testing::ValuesIn(fuzz::kHarnesses), HarnessName);
 
 }  // namespace
 }  // namespace strake::tests

@@ -231,6 +231,25 @@ TEST_F(RepositoryTest, ShowsInjectedFaultsWithoutDoingTheWork) {
   cimClass->CreateInstance(given, {});
   EXPECT_FALSE(given);
 
+  trace.Inject(BoundaryCall::CreateInstance, Fault::UntouchedHandle);
+  given = instance;
+  cimClass->CreateInstance(given, {});
+  EXPECT_EQ(given, instance);
+
+  trace.Inject(BoundaryCall::GetClass, Fault::UntouchedHandle);
+  ClassHandle kept = cimClass;
+  fRepository.GetClass(kept, kSystem, {});
+  EXPECT_EQ(kept, cimClass);
+  EXPECT_EQ(
+      trace.TakeLines(),
+      std::vector<std::string>{
+          R"({"event":"host","call":"GetClass","class":"VELKSG_SP_ComputerSystem","found":false})"});
+
+  // What a call cannot show is no fault.
+  trace.Inject(BoundaryCall::GetClass, Fault::SendFails);
+  EXPECT_TRUE(Class(kSystem));
+  trace.TakeLines();
+
   const auto injected = [](auto action) { return TextThrownBy<std::runtime_error>(action); };
   for (const BoundaryCall call :
        {BoundaryCall::GetClass, BoundaryCall::CreateInstance, BoundaryCall::SetProperty,

@@ -3,7 +3,10 @@
 #include "text/DotNotation.h"
 
 #include <algorithm>
+#include <chrono>
 #include <limits>
+#include <new>
+#include <span>
 
 namespace strake::platform {
 namespace {
@@ -279,6 +282,8 @@ TEST_F(SpDriverTest, ShowsInjectedFaults) {
     EXPECT_EQ(TextThrownBy<std::runtime_error>(send), "injected fault");
     fTrace.Inject(call, Fault::OtherException);
     EXPECT_THROW(send(), int);
+    fTrace.Inject(call, Fault::OutOfMemory);
+    EXPECT_THROW(send(), std::bad_alloc);
     EXPECT_EQ(fTrace.TakeLines().size(), 2U);
     // A fault takes no reply out of a sequence, and what a send cannot show is none.
     fTrace.Inject(call, Fault::EmptyHandle);
@@ -293,10 +298,73 @@ TEST_F(SpDriverTest, ShowsInjectedFaults) {
   EXPECT_TRUE(fTrace.TakeLines().empty());
 }
 
-TEST_F(SpDriverTest, AnswersTheSameWhenCommandsTakeTheirTime) {
-  SetServiceProcessors({.latencyMs = 0.001, .kestleCommands = {{166, Once("k")}}});
+TEST_F(SpDriverTest, EachSendTakesAtLeastTheLatency) {
+  using Milliseconds = std::chrono::duration<double, std::milli>;
+  SetServiceProcessors({.latencyMs = 10, .kestleCommands = {{166, Once("k")}}});
+  const auto begin = std::chrono::steady_clock::now();
   EXPECT_FALSE(SendDot("1.1", 0, 4).result);
   EXPECT_EQ(SendKestle(166).length, 1);
+  EXPECT_EQ(SendKestle(166).length, 1);
+  const Milliseconds taken = std::chrono::steady_clock::now() - begin;
+  EXPECT_GE(taken.count(), 30);
+}
+
+TEST_F(SpDriverTest, AnUnwrittenLengthIsTheCallersOwn) {
+  SetServiceProcessors(
+      {.instances = {{{Id("1.1"), Once("abc")}}}, .kestleCommands = {{166, Once("k")}}});
+  SetDriverObserver(&fTrace);
+  fTrace.Inject(BoundaryCall::DotSend, Fault::UntouchedLength);
+  const Sent dot = SendDot("1.1", 0, 4);
+  EXPECT_TRUE(dot.result);
+  EXPECT_EQ(dot.length, Sent{}.length);
+  EXPECT_EQ(dot.buffer, (Bytes{'a', 'b', 'c', kUntouched}));
+  fTrace.Inject(BoundaryCall::KestleSend, Fault::UntouchedLength);
+  EXPECT_EQ(SendKestle(166).length, Sent{}.length);
+  const Lines lines = fTrace.TakeLines();
+  ASSERT_EQ(lines.size(), 2U);
+  EXPECT_NE(lines[0].find(R"("length":-77,"reply":"616263")"), std::string::npos) << lines[0];
+  EXPECT_NE(lines[1].find(R"("length":-77,"reply":"6B")"), std::string::npos) << lines[1];
+}
+
+// Keeps what a trace does not tell.
+class Untold : public BoundaryObserver {
+ public:
+  void OnReplyBuffer(std::span<const unsigned char> bytes) override {
+    buffers.emplace_back(bytes.begin(), bytes.end());
+  }
+  void OnDotSend(const DotSend& send) override { dot = send; }
+  void OnKestleSend(const KestleSend& send) override { kestle = send; }
+
+  std::vector<Bytes> buffers;
+  DotSend dot;
+  KestleSend kestle;
+};
+
+TEST_F(SpDriverTest, TellsAnObserverWhatCommandsCarryAndWhatTheReplyBuffersHeld) {
+  Untold observer;
+  SetServiceProcessors({.instances = {{{Id("1"), Once("xyz")}}}});
+  SetDriverObserver(&observer);
+  const unsigned char identifier = 1;
+  const unsigned char extra = 9;
+  Bytes reply{1, 2, 3};
+  int length = 0;
+  dotCmd dot(2, 1, 7, &identifier, &extra);
+  Library().sendDotCommand(&dot, reply.data(), &length, 0, 3);
+  EXPECT_EQ(observer.dot.secondLength, 7);
+  EXPECT_EQ(observer.dot.extraData, &extra);
+  EXPECT_EQ(reply, (Bytes{'x', 'y', 'z'}));
+  unsigned char data = 5;
+  Bytes buffer(255, kUntouched);
+  KestleCmd kestle(2, 1, 1, 255, &data, 1, false, true);
+  Library().sendKestleCommand(&kestle, &length, buffer.data());
+  EXPECT_EQ(observer.kestle.data, &data);
+  EXPECT_EQ(observer.kestle.dataLength, 1);
+  EXPECT_EQ(observer.buffers, (std::vector<Bytes>{{1, 2, 3}, Bytes(255, kUntouched)}));
+  Library().sendDotCommand(nullptr, nullptr, nullptr, 0, 3);
+  Library().sendDotCommand(nullptr, reply.data(), nullptr, 0, -1);
+  EXPECT_EQ(observer.dot.extraData, nullptr);
+  EXPECT_EQ(observer.buffers.size(), 4U);
+  EXPECT_EQ(observer.buffers.back(), Bytes{});
 }
 
 TEST_F(SpDriverTest, RefusesADescriptionThatBreaksItsOwnRules) {

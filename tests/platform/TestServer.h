@@ -5,10 +5,11 @@
 #include "platform/boundary/TraceWriter.h"
 #include "platform/hostcore/HostControl.h"
 #include "platform/pluginmanager/ManagerControl.h"
+#include "platform/server/ServerDescription.h"
 #include "platform/spdriver/DriverControl.h"
+#include "tests/support/FaultyObserver.h"
 
 #include <gtest/gtest.h>
-#include <optional>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -18,16 +19,11 @@
 
 namespace strake::platform {
 
-// Keeps the trace; the calls of one kind get the fault, once it is set.
-class FaultyTrace : private std::ostringstream, public TraceWriter {
+// Keeps the trace, and makes calls fail.
+class FaultyTrace : private std::ostringstream, public tests::FaultyObserver<TraceWriter> {
  public:
-  FaultyTrace() : TraceWriter(static_cast<std::ostream&>(*this)) {}
+  FaultyTrace() : FaultyObserver(static_cast<std::ostream&>(*this)) {}
 
-  void Inject(BoundaryCall call, Fault fault) {
-    fCall = call;
-    fFault = fault;
-  }
-  Fault BeforeCall(BoundaryCall call) override { return call == fCall ? fFault : Fault::None; }
   // The lines since the last time.
   std::vector<std::string> TakeLines() {
     std::istringstream text(str());
@@ -38,10 +34,6 @@ class FaultyTrace : private std::ostringstream, public TraceWriter {
     }
     return lines;
   }
-
- private:
-  std::optional<BoundaryCall> fCall;
-  Fault fFault = Fault::None;
 };
 
 class PlatformTest : public testing::Test {

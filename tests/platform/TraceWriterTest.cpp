@@ -1,4 +1,5 @@
 #include "platform/boundary/TraceWriter.h"
+#include "plugin/host/TCIMValue.h"
 
 #include <array>
 #include <functional>
@@ -82,17 +83,17 @@ TEST(Trace, HasOneLineAnEventWithExactlyItsKeys) {
       {[](TraceWriter& t) { t.OnComponentCount({}, -1); },
        R"({"event":"sp","call":"getComponentdotCmdList","id":"","result":-1})"},
       {[](TraceWriter& t) {
-         t.OnDotSend({2, kIdentifier, 1, 350, true, 3, kReply});
+         t.OnDotSend({2, kIdentifier, 9, kReply.data(), 1, 350, true, 3, kReply});
        },
        R"({"event":"sp","call":"sendDotCommand","class":2,"id":"4.9.1.1.255","sp":1,"size":350,)"
        R"("result":true,"length":3,"reply":"00ABFF"})"},
       {[](TraceWriter& t) {
-         t.OnDotSend({2, kIdentifier, 1, 0, false, -9, {}});
+         t.OnDotSend({2, kIdentifier, 0, nullptr, 1, 0, false, -9, {}});
        },
        R"({"event":"sp","call":"sendDotCommand","class":2,"id":"4.9.1.1.255","sp":1,"size":0,)"
        R"("result":false,"length":-9,"reply":""})"},
       {[](TraceWriter& t) {
-         t.OnKestleSend({2, 166, 166, 90, 0, false, true, true, 3, kReply});
+         t.OnKestleSend({2, 166, 166, 90, kReply.data(), 0, false, true, true, 3, kReply});
        },
        R"({"event":"sp","call":"sendKestleCommand","total":2,"code":166,"expected":166,)"
        R"("checksum":90,"data_length":0,"ack":false,"read":true,"result":true,"length":3,)"

@@ -13,6 +13,7 @@ long live = 0;
 long made = 0;
 long madeBytes = 0;
 long failing = kNever;
+long failed = 0;
 bool allFail = false;
 Allocations::Witness witnessOfFailure = nullptr;
 void* witnessContext = nullptr;
@@ -21,6 +22,7 @@ void* Allocate(std::size_t size) {
   ++made;
   madeBytes += static_cast<long>(size);
   if (failing != kNever && (made == failing || (allFail && made > failing))) {
+    ++failed;
     if (made == failing && witnessOfFailure != nullptr) witnessOfFailure(witnessContext);
     throw std::bad_alloc();
   }
@@ -52,12 +54,14 @@ void Allocations::Count() {
 void Allocations::FailAt(long k, bool all, Witness witness, void* context) {
   made = 0;
   failing = k;
+  failed = 0;
   allFail = all;
   witnessOfFailure = witness;
   witnessContext = context;
 }
 
 void Allocations::FailNever() { failing = kNever; }
+long Allocations::Failed() { return failed; }
 
 }  // namespace strake::tests
 

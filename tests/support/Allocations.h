@@ -17,6 +17,7 @@ struct Allocations {
   // behind it too. Counts from 0.
   static void FailAt(long k, bool all, Witness witness = nullptr, void* context = nullptr);
   static void FailNever();
+  static long Failed();  // since FailAt
 };
 
 }  // namespace strake::tests

@@ -1,6 +1,6 @@
 // Every value of every coded byte in the dial records.
 #include "tests/plugin/config/DialScenario.h"
-#include "tests/plugin/config/DialTables.h"
+#include "tests/support/PlainRecords.h"
 
 #include <gtest/gtest.h>
 
@@ -10,21 +10,28 @@ namespace {
 struct CodedByte {
   const char* className;
   const char* identifier;
-  std::span<const DialField> record;
-  DialField field;
+  const char* record;
+  PlainField field;
+
+  // What the byte means.
+  [[nodiscard]] std::string Meaning(int byte) const {
+    PlainBytes value(256, 0);
+    value[0] = static_cast<unsigned char>(byte);
+    return field.decode(value);
+  }
 };
 
 std::vector<CodedByte> CodedBytes() {
   const CodedByte records[] = {
-      {kSerialPort, "4.1.2.1.255", SerialPortMeanings(), {}},
-      {kDialout, "4.1.3.1.255", DialoutMeanings(), {}},
-      {kDialin, "4.1.4.1.255", DialinMeanings(), {}},
-      {kAlerts, "4.2.1.1", AlertMeanings(), {}},
+      {kSerialPort, "4.1.2.1.255", "serial port", {}},
+      {kDialout, "4.1.3.1.255", "dial-out settings", {}},
+      {kDialin, "4.1.4.1.255", "dial-in login", {}},
+      {kAlerts, "4.2.1.1", "dial-out alerts", {}},
   };
   std::vector<CodedByte> coded;
   for (CodedByte record : records) {
-    for (const DialField& field : record.record) {
-      if (field.meaning != nullptr) {
+    for (const PlainField& field : PlainRecordNamed(record.record).fields) {
+      if (field.form == PlainForm::Data) {
         record.field = field;
         coded.push_back(record);
       }
@@ -38,20 +45,21 @@ std::string NameOf(const testing::TestParamInfo<CodedByte>& info) { return info.
 // The record with this byte; the other coded bytes are zero, the texts empty.
 std::string RecordWith(const CodedByte& coded, int byte) {
   std::string reply;
-  for (const DialField& field : coded.record) {
-    const bool isIt = std::string_view(field.name) == coded.field.name;
-    reply += field.meaning == nullptr ? Text(0, 0, "") : Plain(0, 0, Bytes({isIt ? byte : 0}));
+  for (const PlainField& field : PlainRecordNamed(coded.record).fields) {
+    const bool isIt = field.name == coded.field.name;
+    reply += field.form != PlainForm::Data ? Text(0, 0, "") : Plain(0, 0, Bytes({isIt ? byte : 0}));
   }
   return reply;
 }
 
-std::string ToldLine(const DialField& field, int byte) {
-  return std::string("log 3 ") + field.name + " = " + field.meaning(byte);
+std::string ToldLine(const CodedByte& coded, int byte) {
+  return "log 3 " + coded.field.name + " = " + coded.Meaning(byte);
 }
 
 // Instances count from 1, byte values from 0.
-std::string SetLine(const DialField& field, int byte) {
-  return "Set " + std::to_string(byte + 1) + " " + field.name + " string " + field.meaning(byte);
+std::string SetLine(const CodedByte& coded, int byte) {
+  return "Set " + std::to_string(byte + 1) + " " + coded.field.name + " string " +
+         coded.Meaning(byte);
 }
 
 class DialCodedByte : public testing::TestWithParam<CodedByte> {
@@ -71,13 +79,13 @@ class DialCodedByte : public testing::TestWithParam<CodedByte> {
 
 TEST_P(DialCodedByte, ReadsAsItsTableSaysInTheLogAndOnTheInstance) {
   const CodedByte& coded = GetParam();
-  const std::string name = coded.field.name;
+  const std::string& name = coded.field.name;
   const Scenario scenario = AskForAll(coded);
   Lines logged;
   Lines set;
   for (int byte = 0; byte < 256; ++byte) {
-    logged.push_back(ToldLine(coded.field, byte));
-    set.push_back(SetLine(coded.field, byte));
+    logged.push_back(ToldLine(coded, byte));
+    set.push_back(SetLine(coded, byte));
   }
   EXPECT_EQ(scenario.Record().Beginning({"log 3 " + name + " = "}), logged);
   Lines seen;

@@ -3,6 +3,7 @@
 #include "plugin/config/SharedIdentifiers.h"
 #include "plugin/frame/ModuleEntry.h"
 #include "tests/plugin/config/DialScenario.h"
+#include "tests/support/FaultyObserver.h"
 
 #include <gtest/gtest.h>
 
@@ -12,25 +13,7 @@ namespace {
 using platform::BoundaryCall;
 using platform::Fault;
 
-// Raises a fault at the n-th call of a kind.
-class FaultyRecorder : public Recorder {
- public:
-  FaultyRecorder(BoundaryCall call, int place, Fault fault)
-      : fCall(call), fPlace(place), fFault(fault) {}
-
-  Fault BeforeCall(BoundaryCall call) override {
-    if (call != fCall) {
-      return Fault::None;
-    }
-    --fPlace;
-    return fPlace == 0 ? fFault : Fault::None;
-  }
-
- private:
-  BoundaryCall fCall;
-  int fPlace;
-  Fault fFault;
-};
+using FaultyRecorder = FaultyObserver<Recorder>;
 
 // Runs one query that ends by an exception; its text.
 std::string ThrownBy(FaultyRecorder& record, const Scenario& scenario, const Classes& classes) {
@@ -49,7 +32,8 @@ TEST(DialFaults, AnEmptyHandleIsTheHostsAssertion) {
   for (const BoundaryCall call : {BoundaryCall::GetClass, BoundaryCall::CreateInstance}) {
     for (const char* const className : {kSerialPort, kDialout, kDialin, kAlerts}) {
       SCOPED_TRACE(className);
-      FaultyRecorder record(call, 1, Fault::EmptyHandle);
+      FaultyRecorder record;
+      record.Plan({.fault = Fault::EmptyHandle, .atCall = 1, .only = call});
       const std::string text = ThrownBy(record, DialServer(1, 1, 1), {className});
       EXPECT_NE(text.find("px != 0"), std::string::npos) << text;
       EXPECT_EQ(record.Beginning({"Set", "Commit"}), Lines{});
@@ -62,7 +46,8 @@ TEST(DialFaults, AnEmptyHandleIsTheHostsAssertion) {
 TEST(DialFaults, OnlyADateThatIsRejectedIsReplaced) {
   // A host that throws on the property itself is not taken for one.
   const Scenario scenario = DialServer(1, 0, 1);
-  FaultyRecorder record(BoundaryCall::SetProperty, 20, Fault::StandardException);
+  FaultyRecorder record;
+  record.Plan({.fault = Fault::StandardException, .atCall = 20, .only = BoundaryCall::SetProperty});
   EXPECT_EQ(ThrownBy(record, scenario, {kDialin}), "injected fault");
   const Lines properties = record.Properties(1);
   ASSERT_EQ(properties.size(), 19U);

@@ -1,9 +1,8 @@
-// The walk through the dial records, held beside a second one that is written
-// here: replies of every length, records that wrap, records of any bytes.
+// The dial readers held beside a plain reading: replies of every length, records
+// that wrap, records of any bytes.
 #include "tests/plugin/config/DialScenario.h"
-#include "tests/plugin/config/DialTables.h"
+#include "tests/support/PlainRecords.h"
 
-#include <algorithm>
 #include <gtest/gtest.h>
 #include <random>
 
@@ -14,65 +13,28 @@ struct DialRecord {
   const char* title;
   const char* className;
   const char* identifier;
-  std::span<const DialField> fields;
-  bool tellsLengths;  // of plain elements too
+  const char* record;
   std::string full;
 };
 
 std::vector<DialRecord> DialRecords() {
   return {
-      {"SerialPort", kSerialPort, "4.1.2.1.255", SerialPortMeanings(), false, SerialPortReply()},
-      {"Dialout", kDialout, "4.1.3.1.255", DialoutMeanings(), false, DialoutReply()},
-      {"Dialin", kDialin, "4.1.4.1.255", DialinMeanings(), false, DialinReply()},
-      {"Alerts", kAlerts, "4.2.1.1", AlertMeanings(), true,
-       AlertReply(Bytes({1, 0, 0, 1, 1, 0, 1}))},
+      {"SerialPort", kSerialPort, "4.1.2.1.255", "serial port", SerialPortReply()},
+      {"Dialout", kDialout, "4.1.3.1.255", "dial-out settings", DialoutReply()},
+      {"Dialin", kDialin, "4.1.4.1.255", "dial-in login", DialinReply()},
+      {"Alerts", kAlerts, "4.2.1.1", "dial-out alerts", AlertReply(Bytes({1, 0, 0, 1, 1, 0, 1}))},
   };
 }
 
 std::string TitleOf(const testing::TestParamInfo<DialRecord>& info) { return info.param.title; }
 
-std::string UpToZero(const std::string& text) { return text.substr(0, text.find('\0')); }
-
-std::string Told(const std::string& name, const std::string& value) {
-  return "log 3 " + name + " = " + value;
-}
-
-std::string Published(std::size_t instance, const std::string& name, const std::string& value) {
-  return "Set " + std::to_string(instance) + " " + name + " string " + value;
-}
-
 // What the walk through a reply logs and sets, as the recorder writes it.
-Lines Walk(const DialRecord& record, std::string reply, std::size_t instance) {
+Lines Walk(const DialRecord& record, const std::string& reply, unsigned long instance) {
   constexpr std::size_t kBuffer = 350;
-  constexpr std::size_t kBeyondAllElements = 600;
-  reply.resize(kBuffer);
-  reply.resize(kBeyondAllElements);
-  Lines lines;
-  std::size_t start = 0;
-  for (const DialField& field : record.fields) {
-    const auto at = [&](std::size_t offset) -> int {
-      return static_cast<unsigned char>(reply.at(start + offset));
-    };
-    const bool isText = field.meaning == nullptr;
-    const std::string name = field.name;
-    const int length = at(2);
-    lines.push_back("log 4 [" + name + "] Vector ID = " + std::to_string(at(0)) + " " +
-                    std::to_string(at(1)));
-    if (isText || record.tellsLengths) {
-      lines.push_back("log 4 [" + name + "] Data length = " + std::to_string(length));
-    }
-    std::string value;
-    if (isText) {
-      lines.push_back("log 4 [" + name + "] Max length of string = " + std::to_string(at(3)));
-      value = UpToZero(reply.substr(start + 4, static_cast<std::size_t>(std::min(length, at(3)))));
-    } else {
-      value = field.meaning(length == 0 ? 0 : at(3));
-    }
-    lines.push_back(Told(name, value));
-    lines.push_back(Published(instance, name, value));
-    start = (start + 3 + static_cast<std::size_t>(length)) % 256;
-  }
-  return lines;
+  PlainBytes buffer(reply.begin(), reply.end());
+  buffer.resize(kBuffer);
+  const PlainRecord& plain = PlainRecordNamed(record.record);
+  return PlainTrail(plain, ReadPlainly(plain, buffer), instance);
 }
 
 // One query a reply; each query's lines from its first element to its last.

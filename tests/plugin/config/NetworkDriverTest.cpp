@@ -6,6 +6,7 @@
 #include "plugin/frame/ModuleEntry.h"
 #include "plugin/frame/TStrakePluginCallbacks.h"
 #include "tests/plugin/config/NetworkScenario.h"
+#include "tests/support/FaultyObserver.h"
 
 #include <gtest/gtest.h>
 
@@ -158,21 +159,6 @@ TEST(NetworkDriver, EveryCommandIsDestroyedAfterItsSend) {
   EXPECT_EQ(platform::LiveDotCommands(), before + 1);
 }
 
-// Does something else than its work at the n-th call of a kind.
-class FaultyHost : public Recorder {
- public:
-  FaultyHost(BoundaryCall call, int place, Fault fault)
-      : fCall(call), fPlace(place), fFault(fault) {}
-  Fault BeforeCall(BoundaryCall call) override {
-    return call == fCall && --fPlace == 0 ? fFault : Fault::None;
-  }
-
- private:
-  BoundaryCall fCall;
-  int fPlace;
-  Fault fFault;
-};
-
 TEST(NetworkDriver, HostErrorsAreNotCaughtHere) {
   struct Case {
     BoundaryCall call;
@@ -195,7 +181,8 @@ TEST(NetworkDriver, HostErrorsAreNotCaughtHere) {
        {"Commit 1"}},
   };
   for (const Case& c : cases) {
-    FaultyHost host(c.call, c.place, c.fault);
+    FaultyObserver<Recorder> host;
+    host.Plan({.fault = c.fault, .atCall = c.place, .only = c.call});
     platform::HostSession session(NetworkServer().server, &host);
     session.Attach(&StrakeModuleEntry);
     try {

@@ -1,6 +1,6 @@
 // Replies of every length from 1 to 256, to every network command.
 #include "tests/plugin/config/NetworkScenario.h"
-#include "tests/plugin/config/PlainRecords.h"
+#include "tests/support/PlainRecords.h"
 
 #include <gtest/gtest.h>
 
@@ -97,11 +97,12 @@ TEST(NetworkReplyLength, EveryLengthIsReadToItsEndAndAsZerosBeyond) {
     EXPECT_EQ(Lines(summary.begin() + 5, summary.end()),
               Joined({{"SystemLocation string " + text, "SystemContact string " + text,
                        "Traps string Disabled", "SNMPv1 string Enabled", "SNMPv3 string Enabled"},
-                      PropertiesOf(PlainRecords()[1], replies.dns.substr(0, length)),
-                      PropertiesOf(PlainRecords()[2], replies.community.substr(0, length))}));
+                      PropertiesOf(PlainRecordNamed("DNS summary"), replies.dns.substr(0, length)),
+                      PropertiesOf(PlainRecordNamed("SNMP communities"),
+                                   replies.community.substr(0, length))}));
 
     const std::string record = replies.interface.substr(0, length);
-    const Lines fields = Joined({PropertiesOf(PlainRecords()[0], record),
+    const Lines fields = Joined({PropertiesOf(PlainRecordNamed("network interface"), record),
                                  {
                                      "DHCPHostName string " + text,
                                      "DHCPAssignedIPAddress string " + address,
@@ -118,7 +119,8 @@ TEST(NetworkReplyLength, EveryLengthIsReadToItsEndAndAsZerosBeyond) {
       EXPECT_EQ(Lines(properties.begin() + 6, properties.end()), fields);
     }
     const Lines logs = LogsOf(server, "NetworkInterface");
-    EXPECT_EQ(Lines(logs.begin() + 5, logs.end() - 1), LogsOfRecord(PlainRecords()[0], record));
+    EXPECT_EQ(Lines(logs.begin() + 5, logs.end() - 1),
+              LogsOfRecord(PlainRecordNamed("network interface"), record));
     EXPECT_EQ(server.Record().Beginning({"log 3 No data"}), Lines{});
   }
 }

@@ -1,7 +1,7 @@
 // Buffers that an SP may leave behind, well-formed and not.
 #pragma once
 
-#include "tests/plugin/config/PlainRecords.h"
+#include "tests/support/PlainRecords.h"
 
 #include <cstddef>
 #include <cstdint>

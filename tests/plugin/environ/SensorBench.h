@@ -4,6 +4,7 @@
 
 #include "platform/session/HostSession.h"
 #include "plugin/environ/TSPEnviron.h"
+#include "tests/support/FaultyObserver.h"
 #include "tests/support/Scenario.h"
 
 #include <functional>
@@ -14,17 +15,10 @@ namespace strake::tests {
 
 // A recorder that can make one kind of call fail and look around when a line
 // is logged: what the look throws, the logger throws.
-class BenchRecorder : public Recorder {
+class BenchRecorder : public FaultyObserver<Recorder> {
  public:
-  void Inject(platform::BoundaryCall call, platform::Fault fault) {
-    fCall = call;
-    fFault = fault;
-  }
   void AtLog(std::function<void(const std::string& message)> look) { fAtLog = std::move(look); }
 
-  platform::Fault BeforeCall(platform::BoundaryCall call) override {
-    return call == fCall ? fFault : platform::Fault::None;
-  }
   void OnLog(int level, const std::string& message) override {
     Recorder::OnLog(level, message);
     if (fAtLog) {
@@ -33,8 +27,6 @@ class BenchRecorder : public Recorder {
   }
 
  private:
-  platform::BoundaryCall fCall = platform::BoundaryCall::Log;
-  platform::Fault fFault = platform::Fault::None;
   std::function<void(const std::string&)> fAtLog;
 };
 

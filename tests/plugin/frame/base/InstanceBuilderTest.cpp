@@ -1,6 +1,7 @@
 // Identity and the way an instance is made.
 #include "platform/hostcore/HostControl.h"
 #include "platform/hostcore/Repository.h"
+#include "platform/server/HostSettings.h"
 #include "plugin/frame/base/InstanceBuilder.h"
 #include "tests/support/Recorder.h"
 

@@ -1,11 +1,12 @@
-// A second, deliberately plain reading of the element records, to hold the real
-// one beside: index arithmetic on one array, and every table written out again.
+// A second, deliberately plain reading of the element records, which the tests
+// and the fuzzers hold the real one beside: index arithmetic on one array, and
+// every table written out again.
 #pragma once
 
-#include "tests/support/Recorder.h"
-
 #include <cstddef>
+#include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace strake::tests {
@@ -23,16 +24,17 @@ struct PlainField {
 };
 
 struct PlainRecord {
-  std::string name;
+  std::string name;       // as the plug-in names it
   std::string className;  // of the instance that its fields are set on
   std::vector<PlainField> fields;
   bool tellsVectorIds = true;
   bool tellsLengths = false;  // of plain elements
 };
 
-// The interface, DNS, community, serial-port, dial-out, dial-in and alert
-// records, in this order.
+// By number; a new record gets a number of its own, behind the others.
 const std::vector<PlainRecord>& PlainRecords();
+// Throws std::out_of_range.
+const PlainRecord& PlainRecordNamed(std::string_view name);
 
 struct PlainElement {
   std::size_t start;
@@ -42,10 +44,14 @@ struct PlainElement {
   bool operator==(const PlainElement&) const = default;
 };
 
-std::vector<PlainElement> ReadPlainly(const PlainRecord& record, const PlainBytes& buffer);
+std::vector<PlainElement> ReadPlainly(const PlainRecord& record,
+                                      std::span<const unsigned char> buffer);
+// Where the element behind the one that starts there starts.
+std::size_t PlainNext(std::span<const unsigned char> buffer, std::size_t start);
 
 // What the walk logs and sets, as a recorder tells it.
-Lines PlainTrail(const PlainRecord& record, const std::vector<PlainElement>& elements,
-                 unsigned long instance = 1);
+std::vector<std::string> PlainTrail(const PlainRecord& record,
+                                    const std::vector<PlainElement>& elements,
+                                    unsigned long instance = 1);
 
 }  // namespace strake::tests

@@ -1,9 +1,12 @@
-#include "tests/plugin/config/PlainRecords.h"
+#include "tests/support/PlainRecords.h"
+
+#include <algorithm>
+#include <stdexcept>
 
 namespace strake::tests {
 namespace {
 
-// Room behind the largest buffer for an element that begins at 255.
+// Room for an element that begins at 255.
 constexpr std::size_t kMemory = 1024;
 
 std::string TextOf(const PlainBytes& value) {
@@ -16,8 +19,23 @@ std::string TextOf(const PlainBytes& value) {
 
 }  // namespace
 
-std::vector<PlainElement> ReadPlainly(const PlainRecord& record, const PlainBytes& buffer) {
-  PlainBytes memory(kMemory, 0);
+const PlainRecord& PlainRecordNamed(std::string_view name) {
+  for (const PlainRecord& record : PlainRecords()) {
+    if (record.name == name) {
+      return record;
+    }
+  }
+  throw std::out_of_range("no plain record " + std::string(name));
+}
+
+std::size_t PlainNext(std::span<const unsigned char> buffer, std::size_t start) {
+  const std::size_t length = start + 2 < buffer.size() ? buffer[start + 2] : 0;
+  return (start + 3 + length) % 256;
+}
+
+std::vector<PlainElement> ReadPlainly(const PlainRecord& record,
+                                      std::span<const unsigned char> buffer) {
+  PlainBytes memory(std::max(kMemory, buffer.size()), 0);
   for (std::size_t i = 0; i < buffer.size(); ++i) {
     memory[i] = buffer[i];
   }
@@ -42,14 +60,15 @@ std::vector<PlainElement> ReadPlainly(const PlainRecord& record, const PlainByte
     elements.push_back({start, memory[start], memory[start + 1], memory[start + 2],
                         memory[start + 3],
                         field.form == PlainForm::Data ? field.decode(value) : TextOf(value)});
-    start = (start + 3 + length) % 256;
+    start = PlainNext(buffer, start);
   }
   return elements;
 }
 
-Lines PlainTrail(const PlainRecord& record, const std::vector<PlainElement>& elements,
-                 unsigned long instance) {
-  Lines lines;
+std::vector<std::string> PlainTrail(const PlainRecord& record,
+                                    const std::vector<PlainElement>& elements,
+                                    unsigned long instance) {
+  std::vector<std::string> lines;
   for (std::size_t i = 0; i < record.fields.size(); ++i) {
     const PlainField& field = record.fields[i];
     const PlainElement& element = elements[i];
