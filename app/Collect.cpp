@@ -16,10 +16,9 @@
 #include "os/Terminal.h"
 #include "platform/session/HostSession.h"
 #include "platform/session/PluginModule.h"
-#include "report/JsonReport.h"
-#include "report/Report.h"
-#include "report/TableReport.h"
+#include "report/Formats.h"
 
+#include <chrono>
 #include <exception>
 #include <memory>
 #include <set>
@@ -90,20 +89,18 @@ void RunQueries(platform::HostSession& session, const std::vector<ClassNames>& q
 
 void WriteReport(const report::Report& report, const CollectOptions& options,
                  os::OutputFile* file) {
-  const bool isJson = options.format == ReportFormat::Json;
-  const report::Colour colour = file == nullptr && os::StandardOutputShowsColour()
-                                    ? report::Colour::Headings
-                                    : report::Colour::Never;
-  const std::string text =
-      isJson ? report::JsonReport(report) : report::TableReport(report, colour);
+  const report::Format& format = *options.format;
   if (file == nullptr) {
-    os::WriteStandardOutput(text);
+    const report::Colour colour =
+        os::StandardOutputShowsColour() ? report::Colour::Headings : report::Colour::Never;
+    format.write(report, colour, os::WriteStandardOutput);
   } else {
-    file->Write(text);
+    format.write(report, report::Colour::Never,
+                 [file](std::string_view text) { file->Write(text); });
     file->Complete();
   }
-  if (isJson && !options.quiet) {
-    for (const cim::EqualKeys& equal : report.equalKeys) {
+  if (!format.holdsWarnings && !options.quiet) {
+    for (const cim::EqualKeys& equal : report.EqualKeys()) {
       TellWarning(report::EqualKeysWarning(equal));
     }
   }
@@ -131,6 +128,7 @@ void Collect(const CollectOptions& options) {
   }
   ForwardingObserver observers({trail.Observer(), progress.get()});
 
+  const auto begin = std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now());
   platform::HostSession session(server.description, &observers, trail.Sink());
   RunStep("attaching", [&] { session.Attach(module.Entry()); });
   try {
@@ -144,12 +142,13 @@ void Collect(const CollectOptions& options) {
     progress->Erase();
   }
 
-  report::Report report;
-  report.server = server.facts;
-  report.instances = session.Instances().Committed();
-  report.equalKeys = cim::FindEqualKeys(report.instances);
-  report.queries = queries.size();
-  report.showSecrets = options.showSecrets;
+  const report::Report report(
+      {.server = server.facts,
+       .version = STRAKE_VERSION,
+       .collectedAt = begin,
+       .queries = queries.size()},
+      session.Namespace()->TakeCommitted(),
+      options.showSecrets ? report::Secrets::Shown : report::Secrets::Masked);
   WriteReport(report, options, output.get());
 }
 

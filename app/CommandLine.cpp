@@ -81,9 +81,9 @@ std::string RefuseUnknownDemo(const std::string& name) {
 }
 
 std::string RefuseUnknownFormat(const std::string& name) {
-  return name == "table" || name == "json"
+  return report::FindFormat(name) != nullptr
              ? ""
-             : "there is no format '" + name + "', expected table or json";
+             : "there is no format '" + name + "', expected " + report::FormatNames();
 }
 
 std::string RefuseLogLevel(const std::string& level) {
@@ -131,10 +131,11 @@ void AddQueries(CLI::App& app, CollectOptions& options) {
 }
 
 void AddOutput(CLI::App& app, CollectOptions& options) {
-  AddValue(app, "--format", "FORMAT", "The report's format: table (default) or json",
-           [&options](const std::string& value) {
-             options.format = value == "json" ? ReportFormat::Json : ReportFormat::Table;
-           })
+  AddValue(app, "--format", "FORMAT",
+           "The report's format: " + report::FormatNames() +
+               "; default: what the ending of --output says, else " +
+               std::string(report::Formats().front().name),
+           [&options](const std::string& value) { options.format = report::FindFormat(value); })
       ->check(RefuseUnknownFormat);
   AddValue(app, "--output", "FILE", "Where the report goes; default: standard output",
            [&options](const std::string& value) {
@@ -293,6 +294,11 @@ CommandLine ParseCommandLine(int argc, const char* const* argv) {
   }
   if (collect.log && collectCommand.count("--log-level") == 0) {
     collect.logLevel = kHighestLogLevel;
+  }
+  if (collect.output && collectCommand.count("--format") == 0) {
+    if (const auto* const format = report::FindFormatOfFile(collect.output->string())) {
+      collect.format = format;
+    }
   }
   return collect;
 }

@@ -1,6 +1,8 @@
 // What the command was asked to do.
 #pragma once
 
+#include "report/Formats.h"
+
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -9,15 +11,13 @@
 
 namespace strake::app {
 
-enum class ReportFormat { Table, Json };
-
 struct CollectOptions {
   std::optional<std::filesystem::path> server;  // "-": standard input; none: the server `demo`
   std::string demo = "demo-orlo";
   std::vector<std::string> classes;  // known ones; empty: all eight
   std::vector<std::string> queries;  // class lists; not empty: they replace the classes
-  ReportFormat format = ReportFormat::Table;
-  std::optional<std::filesystem::path> output;  // none: standard output
+  const report::Format* format = report::Formats().data();  // never null
+  std::optional<std::filesystem::path> output;              // none: standard output
   std::optional<std::filesystem::path> trace;
   std::optional<std::filesystem::path> log;
   int logLevel = 1;

@@ -1,29 +1,12 @@
 #include "app/QueryPlan.h"
 
+#include "cim/Catalogue.h"
+
 #include <algorithm>
-#include <array>
-#include <utility>
 
 namespace strake::app {
+
 namespace {
-
-struct PlannedClass {
-  std::string_view name;
-  std::size_t query;  // classes of one number come in one query
-};
-
-constexpr std::array<PlannedClass, 8> kClasses{{
-    {"VELKSG_ServProc_IPProtocolEndpoint", 0},
-    {"VELKSG_ServProc_IPProtocolEndpoint2", 0},
-    {"VELKSG_ServProc_DialProtocolEndpoint1", 1},
-    {"VELKSG_ServProc_DialProtocolEndpoint2", 1},
-    {"VELKSG_ServProc_DialProtocolEndpoint3", 1},
-    {"VELKSG_ServProc_DialProtocolEndpoint4", 1},
-    {"VELKSG_SP_NumericSensor", 2},
-    {"VELKSG_SP_ComputerSystem", 3},
-}};
-
-constexpr std::size_t kQueries = kClasses.back().query + 1;
 
 // Without those before and behind it.
 std::string_view WithoutBlanks(std::string_view text) {
@@ -37,36 +20,32 @@ std::string_view WithoutBlanks(std::string_view text) {
 
 }  // namespace
 
-bool IsKnownClass(std::string_view name) {
-  return std::any_of(kClasses.begin(), kClasses.end(),
-                     [name](const PlannedClass& planned) { return planned.name == name; });
-}
-
-std::string KnownClasses() {
-  std::string text;
-  for (const PlannedClass& planned : kClasses) {
-    if (!text.empty()) {
-      text += ", ";
-    }
-    text += planned.name;
-  }
-  return text;
-}
+bool IsKnownClass(std::string_view name) { return cim::FindSchemaClass(name) != nullptr; }
 
 std::vector<ClassNames> PlanQueries(const ClassNames& wanted) {
-  std::array<ClassNames, kQueries> queries;
-  for (const PlannedClass& planned : kClasses) {
-    if (wanted.empty() || std::find(wanted.begin(), wanted.end(), planned.name) != wanted.end()) {
-      queries.at(planned.query).emplace_back(planned.name);
-    }
-  }
   std::vector<ClassNames> plan;
-  for (ClassNames& query : queries) {
+  for (const cim::QueryGroup group : cim::kQueryGroups) {
+    ClassNames query = cim::ClassNamesOf(group);
+    if (!wanted.empty()) {
+      std::erase_if(query, [&wanted](const std::string& name) {
+        return std::ranges::find(wanted, name) == wanted.end();
+      });
+    }
     if (!query.empty()) {
       plan.push_back(std::move(query));
     }
   }
   return plan;
+}
+
+std::string KnownClasses() {
+  std::string text;
+  for (const ClassNames& query : PlanQueries({})) {
+    for (const std::string& name : query) {
+      text += (text.empty() ? "" : ", ") + name;
+    }
+  }
+  return text;
 }
 
 ClassNames SplitClassList(std::string_view list) {

@@ -1,61 +1,76 @@
 #include "cim/EqualKeys.h"
 
-#include "cim/Catalogue.h"
-#include "cim/TCIMValueContent.h"
-
-#include <algorithm>
-#include <map>
-#include <optional>
-#include <string>
-#include <string_view>
-#include <utility>
-#include <vector>
+#include <functional>
+#include <unordered_map>
 
 namespace strake::cim {
 namespace {
 
-using NVELKZEV20::TCIMDateTime;
-using NVELKZEV20::TCIMValue;
-
-std::string TextOf(const TCIMValue& value) {
-  struct Texts {
-    std::string operator()(const std::monostate& /*empty*/) const { return {}; }
-    std::string operator()(const std::string& text) const { return text; }
-    std::string operator()(const TCIMDateTime& dateTime) const { return dateTime.ToString(); }
-    std::string operator()(int number) const { return std::to_string(number); }
-  };
-  return std::visit(Texts{}, NVELKZEV20::TCIMValueContent::Of(value));
-}
-
-// The values of a class' keys in schema order; a key that was not set is empty.
-using KeyValues = std::vector<std::optional<std::string>>;
-
-KeyValues KeysOf(const SchemaClass& schemaClass, const StoredInstance& instance) {
-  KeyValues values;
-  for (const SchemaProperty& property : schemaClass.properties) {
-    if (!property.isKey) {
-      continue;
+// The value of a key; null when it was not set.
+const Value* KeyValue(const StoredInstance& instance, const SchemaProperty& key) {
+  for (const StoredProperty& property : instance.properties) {
+    if (property.schema == &key) {
+      return &property.value;
     }
-    const auto set = std::ranges::find(instance.properties, property.name,
-                                       &std::pair<std::string, TCIMValue>::first);
-    values.push_back(set == instance.properties.end() ? std::nullopt
-                                                      : std::optional(TextOf(set->second)));
   }
-  return values;
+  return nullptr;
 }
 
-std::string Describe(const SchemaClass& schemaClass, const KeyValues& values) {
+struct HashText {
+  std::size_t operator()(const std::string& text) const { return std::hash<std::string>{}(text); }
+  std::size_t operator()(const DateTime& dateTime) const {
+    return std::hash<std::string_view>{}(dateTime.Text());
+  }
+  std::size_t operator()(int number) const { return static_cast<std::size_t>(number); }
+};
+
+// Calls the function with each key of the class.
+template <typename Function>
+void ForEachKey(const SchemaClass& schema, const Function& function) {
+  for (const SchemaProperty& property : schema.properties) {
+    if (property.role == Role::Key) {
+      function(property);
+    }
+  }
+}
+
+struct HashKeys {
+  std::size_t operator()(const StoredInstance* instance) const {
+    std::size_t hash = std::hash<const SchemaClass*>{}(instance->schema);
+    ForEachKey(*instance->schema, [&](const SchemaProperty& key) {
+      const Value* const value = KeyValue(*instance, key);
+      hash = hash * 31 + (value == nullptr ? 1 : std::visit(HashText{}, *value));
+    });
+    return hash;
+  }
+};
+
+struct HaveEqualKeys {
+  bool operator()(const StoredInstance* one, const StoredInstance* other) const {
+    if (one->schema != other->schema) {
+      return false;
+    }
+    bool areEqual = true;
+    ForEachKey(*one->schema, [&](const SchemaProperty& key) {
+      const Value* const value = KeyValue(*one, key);
+      const Value* const otherValue = KeyValue(*other, key);
+      areEqual = areEqual && (value == nullptr || otherValue == nullptr ? value == otherValue
+                                                                        : *value == *otherValue);
+    });
+    return areEqual;
+  }
+};
+
+std::string Describe(const StoredInstance& instance) {
   std::string text;
-  auto value = values.begin();
-  for (const SchemaProperty& property : schemaClass.properties) {
-    if (!property.isKey) {
-      continue;
+  ForEachKey(*instance.schema, [&](const SchemaProperty& key) {
+    if (const Value* const value = KeyValue(instance, key)) {
+      text += text.empty() ? "" : ", ";
+      text += key.name;
+      text += '=';
+      text += ToText(*value);
     }
-    if (value->has_value()) {
-      text += (text.empty() ? "" : ", ") + std::string(property.name) + '=' + **value;
-    }
-    ++value;
-  }
+  });
   return text;
 }
 
@@ -63,27 +78,23 @@ std::string Describe(const SchemaClass& schemaClass, const KeyValues& values) {
 
 std::vector<EqualKeys> FindEqualKeys(std::span<const StoredInstance> instances) {
   struct Group {
-    const SchemaClass& schemaClass;
-    const KeyValues& values;
+    const StoredInstance* first;
     std::size_t count = 0;
   };
-  std::map<std::pair<std::string_view, KeyValues>, std::size_t> places;
+  std::unordered_map<const StoredInstance*, std::size_t, HashKeys, HaveEqualKeys> places;
+  places.reserve(instances.size());
   std::vector<Group> groups;
   for (const StoredInstance& instance : instances) {
-    // What is committed was created from a class of the schema.
-    const SchemaClass& schemaClass = *FindSchemaClass(instance.className);
-    const auto [place, isNew] = places.try_emplace(
-        std::pair(schemaClass.name, KeysOf(schemaClass, instance)), groups.size());
+    const auto [place, isNew] = places.try_emplace(&instance, groups.size());
     if (isNew) {
-      groups.push_back({.schemaClass = schemaClass, .values = place->first.second});
+      groups.push_back({&instance});
     }
     ++groups[place->second].count;
   }
   std::vector<EqualKeys> found;
   for (const Group& group : groups) {
     if (group.count > 1) {
-      found.push_back({std::string(group.schemaClass.name),
-                       Describe(group.schemaClass, group.values), group.count});
+      found.push_back({group.first->schema, Describe(*group.first), group.count});
     }
   }
   return found;

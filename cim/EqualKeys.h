@@ -12,12 +12,12 @@ namespace strake::cim {
 
 // Instances of one class whose key properties are equal.
 struct EqualKeys {
-  std::string className;
-  std::string keys;  // NAME=VALUE, ..., for people
+  const SchemaClass* schema = nullptr;  // never null
+  std::string keys;                     // NAME=VALUE, ..., for people
   std::size_t count = 0;
 };
 
-// The instances are of classes of the catalogue.
+// In the order of the first instance of each.
 std::vector<EqualKeys> FindEqualKeys(std::span<const StoredInstance> instances);
 
 }  // namespace strake::cim

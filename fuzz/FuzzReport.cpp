@@ -1,4 +1,3 @@
-#include "cim/TCIMValueContent.h"
 #include "fuzz/Check.h"
 #include "fuzz/Harnesses.h"
 #include "fuzz/ReportBytes.h"
@@ -46,14 +45,19 @@ std::string Without(std::string text, std::string_view part) {
   return text;
 }
 
-ordered_json Expected(const NVELKZEV20::TCIMValue& value) {
-  struct Values {
-    ordered_json operator()(std::monostate /*none*/) const { return nullptr; }
-    ordered_json operator()(const std::string& text) const { return text::ToValidUtf8(text); }
-    ordered_json operator()(const NVELKZEV20::TCIMDateTime& time) const { return time.ToString(); }
-    ordered_json operator()(int number) const { return number; }
-  };
-  return std::visit(Values{}, NVELKZEV20::TCIMValueContent::Of(value));
+bool IsMasked(const cim::StoredProperty& property, const ReportCase& reportCase) {
+  return !reportCase.showSecrets && property.schema->role == cim::Role::Secret &&
+         !cim::ToText(property.value).empty();
+}
+
+ordered_json Expected(const cim::StoredProperty& property, const ReportCase& reportCase) {
+  if (IsMasked(property, reportCase)) return report::kSecretMask;
+  if (const auto* const text = std::get_if<std::string>(&property.value)) {
+    return text::ToValidUtf8(*text);
+  }
+  const std::string text = cim::ToText(property.value);
+  return cim::TypeOf(property.value) == cim::CimType::DateTime ? ordered_json(text)
+                                                               : ordered_json::parse(text);
 }
 
 void CheckJson(const std::string& text, const ReportCase& reportCase) {
@@ -67,15 +71,14 @@ void CheckJson(const std::string& text, const ReportCase& reportCase) {
   Check(instances.size() == reportCase.instances.size(), "a JSON report has every instance");
   for (std::size_t i = 0; i < instances.size(); ++i) {
     const cim::StoredInstance& instance = reportCase.instances[i];
-    Check(instances[i]["class"] == instance.className, "an instance has its class");
+    Check(instances[i]["class"] == instance.schema->name, "an instance has its class");
     const ordered_json& properties = instances[i]["properties"];
     Check(properties.size() == instance.properties.size(), "an instance has every property");
     auto property = properties.begin();
-    for (const auto& [name, value] : instance.properties) {
-      Check(property.key() == name, "properties stand in the order in which they were set");
-      const bool isMasked = !reportCase.showSecrets && report::IsSecret(name);
-      Check(property.value() == (isMasked ? ordered_json(report::kSecretMask) : Expected(value)),
-            "a property has its value");
+    for (const cim::StoredProperty& stored : instance.properties) {
+      Check(property.key() == stored.schema->name,
+            "properties stand in the order in which they were set");
+      Check(property.value() == Expected(stored, reportCase), "a property has its value");
       ++property;
     }
   }
@@ -93,13 +96,19 @@ void MarkSecrets(ReportCase& reportCase) {
   reportCase.serverName = Without(reportCase.serverName, kSecretText);
   reportCase.serverDescription = Without(reportCase.serverDescription, kSecretText);
   for (cim::StoredInstance& instance : reportCase.instances) {
-    for (auto& [name, value] : instance.properties) {
-      const auto* const text = std::get_if<std::string>(&NVELKZEV20::TCIMValueContent::Of(value));
+    for (cim::StoredProperty& property : instance.properties) {
+      auto* const text = std::get_if<std::string>(&property.value);
       if (text == nullptr) continue;
-      value =
-          report::IsSecret(name) ? *text + std::string(kSecretText) : Without(*text, kSecretText);
+      *text = Without(*text, kSecretText);
+      if (property.schema->role == cim::Role::Secret && !text->empty()) *text += kSecretText;
     }
   }
+}
+
+std::string Written(report::Writer writer, const report::Report& report, report::Colour colour) {
+  std::string out;
+  writer(report, colour, [&out](std::string_view text) { out += text; });
+  return out;
 }
 
 }  // namespace
@@ -107,18 +116,20 @@ void MarkSecrets(ReportCase& reportCase) {
 int FuzzReport(const std::uint8_t* data, std::size_t size) {
   ReportCase reportCase = DecodeReport({data, size});
   MarkSecrets(reportCase);
-  report::Report report;
-  report.server = {reportCase.serverName, reportCase.serverDescription, "orlo"};
-  report.instances = reportCase.instances;
-  report.equalKeys = cim::FindEqualKeys(reportCase.instances);
-  report.queries = 1;
-  report.showSecrets = reportCase.showSecrets;
+  const report::Report report(
+      {.server = {reportCase.serverName, reportCase.serverDescription, "orlo"},
+       .version = "1.0.0",
+       .collectedAt = {},
+       .queries = 1},
+      reportCase.instances,
+      reportCase.showSecrets ? report::Secrets::Shown : report::Secrets::Masked);
 
-  const std::string json = report::JsonReport(report);
+  const std::string json = Written(report::WriteJson, report, report::Colour::Never);
   CheckText(json, reportCase);
   CheckJson(json, reportCase);
+  Check(!HasControls(json), "a JSON report has no control characters");
   const auto colour = reportCase.colours ? report::Colour::Headings : report::Colour::Never;
-  std::string table = report::TableReport(report, colour);
+  std::string table = Written(report::WriteTable, report, colour);
   CheckText(table, reportCase);
   if (reportCase.colours) table = Without(Without(table, "\x1b[1m"), "\x1b[0m");
   Check(!HasControls(table), "a table has no control characters");

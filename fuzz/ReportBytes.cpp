@@ -2,7 +2,6 @@
 
 #include "cim/Catalogue.h"
 #include "cim/DateTimeText.h"
-#include "cim/TCIMValueContent.h"
 #include "fuzz/ByteStream.h"
 
 #include <algorithm>
@@ -12,8 +11,6 @@ namespace strake::fuzz {
 namespace {
 
 using cim::CimType;
-using NVELKZEV20::TCIMValue;
-using NVELKZEV20::TCIMValueContent;
 
 constexpr unsigned int kShowsSecrets = 1;
 constexpr unsigned int kHasColours = 2;
@@ -27,22 +24,22 @@ const Row& RowNamed(std::span<const Row> rows, const std::string& name) {
   return found == rows.end() ? rows[name.size() % rows.size()] : *found;
 }
 
-NVELKZEV20::TCIMDateTime DateTimeOf(const std::string& text) {
+cim::DateTime DateTimeOf(const std::string& text) {
   try {
-    return cim::ParseDateTime(text);
+    return cim::DateTime(cim::ParseDateTime(text).ToString());
   } catch (const std::exception&) {
-    return {};
+    return cim::DateTime("00000000000000.000000+000");
   }
 }
 
-TCIMValue ReadValue(ByteReader& in, CimType type) {
+cim::Value ReadValue(ByteReader& in, CimType type) {
   switch (type) {
     case CimType::Sint32:
       return {in.Number()};
     case CimType::Uint16:
-      return {static_cast<unsigned short>(in.Number())};
+      return {static_cast<std::uint16_t>(in.Number())};
     case CimType::Uint8:
-      return {static_cast<unsigned char>(in.Number())};
+      return {static_cast<std::uint8_t>(in.Number())};
     case CimType::DateTime:
       return {DateTimeOf(in.Text())};
     default:
@@ -52,17 +49,17 @@ TCIMValue ReadValue(ByteReader& in, CimType type) {
 
 cim::StoredInstance ReadInstance(ByteReader& in, unsigned long number) {
   const cim::SchemaClass& schema = RowNamed(cim::SchemaClasses(), in.Text());
-  cim::StoredInstance instance{std::string(schema.name), number, {}};
+  cim::StoredInstance instance{&schema, number, {}};
   const unsigned int count = in.Byte();
   for (unsigned int i = 0; i < count && !in.AtEnd(); ++i) {
     const cim::SchemaProperty& property = RowNamed(schema.properties, in.Text());
     const unsigned int type = in.Byte();
     const bool isOwn = (type & kOwnType) != 0;
-    const TCIMValue value =
+    const cim::Value value =
         ReadValue(in, isOwn ? static_cast<CimType>((type & 7U) % kTypes) : property.type);
-    const bool isNew = std::ranges::none_of(
-        instance.properties, [&](const auto& known) { return known.first == property.name; });
-    if (isNew) instance.properties.emplace_back(property.name, value);
+    if (cim::FindValue(instance, property.name) == nullptr) {
+      instance.properties.push_back({&property, value});
+    }
   }
   return instance;
 }
@@ -70,19 +67,16 @@ cim::StoredInstance ReadInstance(ByteReader& in, unsigned long number) {
 struct ValueWriter {
   ByteWriter& out;
 
-  void operator()(std::monostate /*none*/) const { Text(CimType::String, ""); }
   void operator()(const std::string& text) const { Text(CimType::String, text); }
   void operator()(std::int32_t number) const { Number(CimType::Sint32, number); }
   void operator()(std::uint16_t number) const { Number(CimType::Uint16, number); }
   void operator()(std::uint8_t number) const { Number(CimType::Uint8, number); }
-  void operator()(const NVELKZEV20::TCIMDateTime& time) const {
-    Text(CimType::DateTime, time.ToString());
-  }
+  void operator()(const cim::DateTime& time) const { Text(CimType::DateTime, time.Text()); }
 
   void Type(CimType type) const { out.Byte(kOwnType | static_cast<unsigned int>(type)); }
-  void Text(CimType type, const std::string& text) const {
+  void Text(CimType type, std::string_view text) const {
     Type(type);
-    out.Text(text);
+    out.Text(std::string(text));
   }
   void Number(CimType type, std::int32_t number) const {
     Type(type);
@@ -114,11 +108,11 @@ std::string EncodeReport(const ReportCase& reportCase) {
   out.Text(reportCase.serverDescription);
   out.Byte(reportCase.instances.size());
   for (const cim::StoredInstance& instance : reportCase.instances) {
-    out.Text(instance.className);
+    out.Text(std::string(instance.schema->name));
     out.Byte(instance.properties.size());
-    for (const auto& [name, value] : instance.properties) {
-      out.Text(name);
-      std::visit(ValueWriter{out}, TCIMValueContent::Of(value));
+    for (const cim::StoredProperty& property : instance.properties) {
+      out.Text(std::string(property.schema->name));
+      std::visit(ValueWriter{out}, property.value);
     }
   }
   return out.Written();

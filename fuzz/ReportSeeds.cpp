@@ -16,10 +16,10 @@ namespace {
 std::vector<cim::StoredInstance> FirstOfEachClass(
     const std::vector<cim::StoredInstance>& instances) {
   constexpr int kEnough = 2;
-  std::map<std::string, int> seen;
+  std::map<const cim::SchemaClass*, int> seen;
   std::vector<cim::StoredInstance> first;
   for (const cim::StoredInstance& instance : instances) {
-    if (++seen[instance.className] <= kEnough) first.push_back(instance);
+    if (++seen[instance.schema] <= kEnough) first.push_back(instance);
   }
   return first;
 }
@@ -38,9 +38,9 @@ std::vector<cim::StoredInstance> Collected(const platform::ServerDescription& se
 std::vector<cim::StoredInstance> AllOf(const std::string& text) {
   std::vector<cim::StoredInstance> instances;
   for (const cim::SchemaClass& schema : cim::SchemaClasses()) {
-    cim::StoredInstance instance{std::string(schema.name), instances.size() + 1, {}};
+    cim::StoredInstance instance{&schema, instances.size() + 1, {}};
     for (const cim::SchemaProperty& property : schema.properties) {
-      instance.properties.emplace_back(property.name, text);
+      instance.properties.push_back({&property, text});
     }
     instances.push_back(instance);
   }

@@ -1,5 +1,6 @@
 #include "os/LoadableModule.h"
 #include "text/Quote.h"
+#include "text/TextEscape.h"
 
 #include <dlfcn.h>
 #include <string>
@@ -25,7 +26,7 @@ constexpr int kLoadFlags = RTLD_NOW | RTLD_LOCAL;
 #endif
 
 [[noreturn]] void Refuse(const std::filesystem::path& file, const std::string& reason) {
-  throw ModuleError(text::PrintableName(file.string()) + ": " + reason);
+  throw ModuleError(text::EscapeForPeople(file.string()) + ": " + reason);
 }
 
 // The loader's own words, without the file's name that it begins with.

@@ -5,7 +5,6 @@
 
 #include <optional>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace strake::report {
@@ -23,6 +22,6 @@ std::string InstanceTitle(const cim::StoredInstance& instance);
 
 // In the order in which the properties were set; every property is there, but
 // for the node and what the title says. Values that belong together share a row.
-std::vector<Row> InstanceRows(const cim::StoredInstance& instance, bool showSecrets);
+std::vector<Row> InstanceRows(const cim::StoredInstance& instance);
 
 }  // namespace strake::report

@@ -1,99 +1,67 @@
 #include "report/JsonReport.h"
 
-#include "cim/TCIMValueContent.h"
+#include "report/Timestamp.h"
 #include "text/TextEscape.h"
 
-#include <type_traits>
-#include <variant>
+#include <nlohmann/json.hpp>
+#include <string>
 
 namespace strake::report {
 namespace {
 
-void AppendCharacter(std::string& out, char character) {
-  constexpr std::string_view kDigits = "0123456789abcdef";
-  constexpr unsigned char kFirstPlain = 0x20;
-  const auto byte = static_cast<unsigned char>(character);
-  if (character == '"' || character == '\\') {
-    out += '\\';
-    out += character;
-  } else if (character == '\n') {
-    out += "\\n";
-  } else if (byte < kFirstPlain) {
-    out += "\\u00";
-    out += kDigits[byte >> 4U];
-    out += kDigits[byte & 0xFU];
-  } else {
-    out += character;
-  }
-}
+using Json = nlohmann::ordered_json;
 
-void AppendString(std::string& out, std::string_view text) {
-  out += '"';
-  for (const char character : text::ToValidUtf8(text)) {
-    AppendCharacter(out, character);
-  }
-  out += '"';
-}
-
-void AppendMember(std::string& out, std::string_view name, std::string_view text) {
-  AppendString(out, name);
-  out += ": ";
-  AppendString(out, text);
-}
-
-void AppendValue(std::string& out, const NVELKZEV20::TCIMValue& value) {
-  const auto append = [&out](const auto& content) {
-    using Content = std::decay_t<decltype(content)>;
-    if constexpr (std::is_same_v<Content, std::monostate>) {
-      out += "null";
-    } else if constexpr (std::is_same_v<Content, std::string>) {
-      AppendString(out, content);
-    } else if constexpr (std::is_same_v<Content, NVELKZEV20::TCIMDateTime>) {
-      AppendString(out, content.ToString());
-    } else {
-      out += std::to_string(content);
+Json ValueOf(const cim::Value& value) {
+  struct Values {
+    Json operator()(const std::string& text) const { return text::ToValidUtf8(text); }
+    Json operator()(const cim::DateTime& dateTime) const {
+      return text::ToValidUtf8(dateTime.Text());
     }
+    Json operator()(int number) const { return number; }
   };
-  std::visit(append, NVELKZEV20::TCIMValueContent::Of(value));
+  return std::visit(Values{}, value);
 }
 
-void AppendInstance(std::string& out, const cim::StoredInstance& instance, bool showSecrets) {
-  out += '{';
-  AppendMember(out, "class", instance.className);
-  out += ", \"properties\": {";
-  bool isFirst = true;
-  for (const auto& [name, value] : instance.properties) {
-    out += isFirst ? "" : ", ";
-    isFirst = false;
-    AppendString(out, name);
-    out += ": ";
-    if (!showSecrets && IsSecret(name)) {
-      AppendString(out, kSecretMask);
-    } else {
-      AppendValue(out, value);
-    }
-  }
-  out += "}}";
+Json HeadOf(const CollectionFacts& facts) {
+  return {{"format", "strake-report/1"},
+          {"strake", facts.version},
+          {"collected_at", Timestamp(facts.collectedAt)},
+          {"server",
+           {{"name", text::ToValidUtf8(facts.server.name)},
+            {"description", text::ToValidUtf8(facts.server.description)},
+            {"kind", facts.server.kind}}}};
 }
+
+Json InstanceOf(const cim::StoredInstance& instance) {
+  Json properties = Json::object();
+  for (const cim::StoredProperty& property : instance.properties) {
+    properties.emplace(property.schema->name, ValueOf(property.value));
+  }
+  Json object;
+  object["class"] = instance.schema->name;
+  object["properties"] = std::move(properties);
+  return object;
+}
+
+std::string Line(const Json& json) { return text::EscapeJson(json.dump()); }
 
 }  // namespace
 
-std::string JsonReport(const Report& report) {
-  std::string out = "{\n  \"format\": \"strake-report/1\",\n  \"server\": {";
-  AppendMember(out, "name", report.server.name);
-  out += ", ";
-  AppendMember(out, "description", report.server.description);
-  out += ", ";
-  AppendMember(out, "kind", report.server.kind);
-  out += "},\n  \"instances\": [";
-  bool isFirst = true;
-  for (const cim::StoredInstance& instance : report.instances) {
-    out += isFirst ? "\n    " : ",\n    ";
-    isFirst = false;
-    AppendInstance(out, instance, report.showSecrets);
+// One value a line, and no more than one of the instances as JSON at a time:
+// there can be 140,000.
+void WriteJson(const Report& report, Colour /*colour*/, const Sink& sink) {
+  const Json head = HeadOf(report.Facts());
+  sink("{\n");
+  for (const auto& [key, value] : head.items()) {
+    sink("  " + Line(key) + ": " + Line(value) + ",\n");
   }
-  out += isFirst ? "]\n}\n" : "\n  ]\n}\n";
-  return out;
+  sink("  \"instances\": [");
+  const char* separator = "\n    ";
+  for (const cim::StoredInstance& instance : report.Instances()) {
+    sink(separator + Line(InstanceOf(instance)));
+    separator = ",\n    ";
+  }
+  sink(report.Instances().empty() ? "]\n}\n" : "\n  ]\n}\n");
 }
 
 }  // namespace strake::report

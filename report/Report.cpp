@@ -2,26 +2,35 @@
 
 #include "text/TextEscape.h"
 
-#include <algorithm>
-#include <array>
+#include <utility>
 
 namespace strake::report {
 namespace {
 
-constexpr std::array<std::string_view, 6> kSecrets{
-    "DialoutPassword", "PPPPassword",    "PagerPIN",
-    "Community1Name",  "Community2Name", "Community3Name",
-};
+void MaskSecrets(cim::StoredInstance& instance) {
+  for (cim::StoredProperty& property : instance.properties) {
+    if (property.schema->role == cim::Role::Secret && !cim::ToText(property.value).empty()) {
+      property.value = std::string(kSecretMask);
+    }
+  }
+}
 
 }  // namespace
 
-std::string EqualKeysWarning(const cim::EqualKeys& equal) {
-  return std::to_string(equal.count) + " instances of " + equal.className +
-         " have equal keys: " + text::EscapeForPeople(equal.keys);
+Report::Report(CollectionFacts facts, std::vector<cim::StoredInstance> instances, Secrets secrets)
+    : fFacts(std::move(facts)),
+      fInstances(std::move(instances)),
+      fEqualKeys(cim::FindEqualKeys(fInstances)) {
+  if (secrets == Secrets::Masked) {
+    for (cim::StoredInstance& instance : fInstances) {
+      MaskSecrets(instance);
+    }
+  }
 }
 
-bool IsSecret(std::string_view propertyName) {
-  return std::find(kSecrets.begin(), kSecrets.end(), propertyName) != kSecrets.end();
+std::string EqualKeysWarning(const cim::EqualKeys& equal) {
+  return std::to_string(equal.count) + " instances of " + std::string(equal.schema->name) +
+         " have equal keys: " + text::EscapeForPeople(equal.keys);
 }
 
 }  // namespace strake::report

@@ -7,13 +7,13 @@
 
 namespace strake::report {
 
-inline constexpr std::string_view kSensorClass = "VELKSG_SP_NumericSensor";
-
 struct SensorText {
   std::string name;     // safe to show
   std::string reading;  // scaled: "5.00"; "no reading" when there is none
   std::string unit;     // "V"
 };
+
+[[nodiscard]] bool IsSensor(const cim::StoredInstance& instance);
 
 SensorText TextOfSensor(const cim::StoredInstance& sensor);
 

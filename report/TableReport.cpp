@@ -1,9 +1,9 @@
 #include "report/TableReport.h"
 
-#include "cim/Catalogue.h"
 #include "report/InstanceText.h"
 #include "report/SensorText.h"
 #include "text/TextEscape.h"
+#include "text/Utf8.h"
 
 #include <algorithm>
 
@@ -25,11 +25,9 @@ struct Place {
   const cim::StoredInstance* instance = nullptr;
 };
 
-std::size_t ClassRank(std::string_view className) {
+std::size_t ClassRank(const cim::SchemaClass& schema) {
   const auto classes = cim::SchemaClasses();
-  const auto found =
-      std::find_if(classes.begin(), classes.end(),
-                   [className](const cim::SchemaClass& known) { return known.name == className; });
+  const auto found = std::ranges::find(classes, schema.name, &cim::SchemaClass::name);
   return static_cast<std::size_t>(found - classes.begin());
 }
 
@@ -37,7 +35,7 @@ std::vector<Place> Arrange(std::span<const cim::StoredInstance> instances) {
   std::vector<Place> places;
   places.reserve(instances.size());
   for (const cim::StoredInstance& instance : instances) {
-    places.push_back({SourceNode(instance), ClassRank(instance.className), &instance});
+    places.push_back({SourceNode(instance), ClassRank(*instance.schema), &instance});
   }
   std::stable_sort(places.begin(), places.end(), [](const Place& one, const Place& other) {
     return one.node != other.node ? one.node < other.node : one.classRank < other.classRank;
@@ -47,19 +45,21 @@ std::vector<Place> Arrange(std::span<const cim::StoredInstance> instances) {
 
 class TableWriter {
  public:
-  TableWriter(const Report& report, Colour colour) : fReport(&report), fColour(colour) {}
+  TableWriter(const Report& report, Colour colour, const Sink& sink)
+      : fReport(&report), fColour(colour), fSink(&sink) {}
 
-  std::string Write() {
+  void Write() {
     WriteServer();
-    const std::vector<Place> places = Arrange(fReport->instances);
+    const std::vector<Place> places = Arrange(fReport->Instances());
     const std::span<const Place> all(places);
     for (std::size_t index = 0; index < all.size();) {
       const std::size_t end = EndOfGroup(all, index);
       WriteGroup(all.subspan(index, end - index));
       index = end;
+      Flush();
     }
     WriteSummary();
-    return std::move(fOut);
+    Flush();
   }
 
  private:
@@ -78,10 +78,10 @@ class TableWriter {
   }
 
   void WriteServer() {
-    std::string text =
-        text::EscapeForPeople(fReport->server.name) + " (" + fReport->server.kind + ")";
-    if (!fReport->server.description.empty()) {
-      text += ": " + text::EscapeForPeople(fReport->server.description);
+    const ServerFacts& server = fReport->Facts().server;
+    std::string text = text::EscapeForPeople(server.name) + " (" + server.kind + ")";
+    if (!server.description.empty()) {
+      text += ": " + text::EscapeForPeople(server.description);
     }
     WriteHeading("", text);
   }
@@ -94,9 +94,7 @@ class TableWriter {
     } else {
       WriteHeading("", "No service processor");
     }
-    const auto isSensor = [](const Place& place) {
-      return place.instance->className == kSensorClass;
-    };
+    const auto isSensor = [](const Place& place) { return IsSensor(*place.instance); };
     const auto sensors = std::find_if(group.begin(), group.end(), isSensor);
     const auto rest = std::find_if_not(sensors, group.end(), isSensor);
     WriteBlocks({group.begin(), sensors});
@@ -115,7 +113,7 @@ class TableWriter {
   void WriteBlock(const cim::StoredInstance& instance) {
     fOut += '\n';
     WriteHeading(kTitleIndent, InstanceTitle(instance));
-    const std::vector<Row> rows = InstanceRows(instance, fReport->showSecrets);
+    const std::vector<Row> rows = InstanceRows(instance);
     std::size_t width = 0;
     for (const Row& row : rows) {
       width = std::max(width, text::CountCodePoints(row.label));
@@ -158,29 +156,35 @@ class TableWriter {
 
   void WriteSummary() {
     fOut += '\n';
-    if (fReport->instances.empty()) {
+    if (fReport->Instances().empty()) {
       fOut += "No instances were collected.\n";
     }
-    fOut += Counted(fReport->instances.size(), "instance", "instances") + ", " +
-            Counted(fReport->queries, "query", "queries") + ", " +
+    fOut += Counted(fReport->Instances().size(), "instance", "instances") + ", " +
+            Counted(fReport->Facts().queries, "query", "queries") + ", " +
             Counted(fServiceProcessors, "service processor", "service processors") + "\n";
-    for (const cim::EqualKeys& equal : fReport->equalKeys) {
+    for (const cim::EqualKeys& equal : fReport->EqualKeys()) {
       fOut += "Warning: " + EqualKeysWarning(equal) + "\n";
     }
+  }
+
+  void Flush() {
+    (*fSink)(fOut);
+    fOut.clear();
   }
 
   void Pad(std::size_t count) { fOut.append(count, ' '); }
 
   const Report* fReport;
   Colour fColour;
+  const Sink* fSink;
   std::size_t fServiceProcessors = 0;
   std::string fOut;
 };
 
 }  // namespace
 
-std::string TableReport(const Report& report, Colour colour) {
-  return TableWriter(report, colour).Write();
+void WriteTable(const Report& report, Colour colour, const Sink& sink) {
+  TableWriter(report, colour, sink).Write();
 }
 
 }  // namespace strake::report

@@ -1,16 +1,12 @@
 // The report for people.
 #pragma once
 
-#include "report/Report.h"
-
-#include <string>
+#include "report/Writer.h"
 
 namespace strake::report {
 
-enum class Colour { Never, Headings };
-
 // Instances grouped by service processor and class: a sensor is a row, any
 // other instance a block of two columns; a closing line counts.
-std::string TableReport(const Report& report, Colour colour);
+void WriteTable(const Report& report, Colour colour, const Sink& sink);
 
 }  // namespace strake::report

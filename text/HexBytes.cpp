@@ -43,4 +43,10 @@ std::optional<std::string> ParseHexBytes(std::string_view text) {
   return bytes;
 }
 
+void AppendHexPair(std::string& out, unsigned char byte) {
+  constexpr std::string_view kDigits = "0123456789ABCDEF";
+  out += kDigits[byte >> 4U];
+  out += kDigits[byte & 0xFU];
+}
+
 }  // namespace strake::text

@@ -11,4 +11,7 @@ namespace strake::text {
 // holds anything else.
 std::optional<std::string> ParseHexBytes(std::string_view text);
 
+// Two upper-case digits.
+void AppendHexPair(std::string& out, unsigned char byte);
+
 }  // namespace strake::text

@@ -1,5 +1,7 @@
 #include "text/Quote.h"
 
+#include "text/TextEscape.h"
+
 #include <cstddef>
 
 namespace strake::text {
@@ -8,23 +10,13 @@ namespace {
 constexpr std::size_t kLongest = 160;
 constexpr std::string_view kGap = "...";
 
-void AppendEscaped(std::string& line, unsigned char byte) {
-  constexpr std::string_view kHex = "0123456789abcdef";
-  line += "\\x";
-  line += kHex[byte >> 4U];
-  line += kHex[byte & 0xFU];
-}
-
-bool IsControl(unsigned char byte) { return byte < 0x20 || byte == 0x7F; }
-
 std::string EscapeAscii(std::string_view text) {
   std::string line;
   for (const char character : text) {
-    const auto byte = static_cast<unsigned char>(character);
-    if (IsControl(byte) || byte >= 0x80) {
-      AppendEscaped(line, byte);
-    } else {
+    if (character >= ' ' && character <= '~') {
       line += character;
+    } else {
+      AppendEscapedByte(line, static_cast<unsigned char>(character));
     }
   }
   return line;
@@ -42,18 +34,5 @@ std::string Printable(std::string_view text) {
 }
 
 std::string Quoted(std::string_view text) { return '"' + Printable(text) + '"'; }
-
-std::string PrintableName(std::string_view name) {
-  std::string line;
-  for (const char character : name) {
-    const auto byte = static_cast<unsigned char>(character);
-    if (IsControl(byte)) {
-      AppendEscaped(line, byte);
-    } else {
-      line += character;
-    }
-  }
-  return line;
-}
 
 }  // namespace strake::text

@@ -11,7 +11,5 @@ namespace strake::text {
 std::string Printable(std::string_view text);
 // The same in double quotes.
 std::string Quoted(std::string_view text);
-// A file's name: only its control bytes are escaped.
-std::string PrintableName(std::string_view name);
 
 }  // namespace strake::text

@@ -1,99 +1,86 @@
 #include "text/TextEscape.h"
 
+#include "text/HexBytes.h"
+#include "text/Utf8.h"
+
 #include <algorithm>
-#include <array>
+#include <span>
 
 namespace strake::text {
 namespace {
-
-struct CodePoint {
-  char32_t value = 0;
-  std::size_t length = 0;  // in bytes; 0: the text does not begin with valid UTF-8
-};
-
-struct Form {
-  unsigned char leadMask;
-  unsigned char lead;
-  std::size_t length;
-  char32_t lowest;  // below it the form is overlong
-};
-
-constexpr std::array<Form, 4> kForms{{
-    {0x80, 0x00, 1, 0x0},
-    {0xE0, 0xC0, 2, 0x80},
-    {0xF0, 0xE0, 3, 0x800},
-    {0xF8, 0xF0, 4, 0x10000},
-}};
-
-constexpr char32_t kHighest = 0x10FFFF;
-constexpr char32_t kFirstSurrogate = 0xD800;
-constexpr char32_t kLastSurrogate = 0xDFFF;
-
-CodePoint DecodeForm(std::string_view text, const Form& form) {
-  if (text.size() < form.length) {
-    return {};
-  }
-  char32_t value = static_cast<unsigned char>(text.front()) & ~form.leadMask & 0xFFU;
-  for (const char next : text.substr(1, form.length - 1)) {
-    const auto byte = static_cast<unsigned char>(next);
-    if ((byte & 0xC0U) != 0x80U) {
-      return {};
-    }
-    value = (value << 6U) | (byte & 0x3FU);
-  }
-  const bool isSurrogate = value >= kFirstSurrogate && value <= kLastSurrogate;
-  if (value < form.lowest || value > kHighest || isSurrogate) {
-    return {};
-  }
-  return {value, form.length};
-}
-
-// The text is not empty.
-CodePoint DecodeFront(std::string_view text) {
-  const auto lead = static_cast<unsigned char>(text.front());
-  for (const Form& form : kForms) {
-    if ((lead & form.leadMask) == form.lead) {
-      return DecodeForm(text, form);
-    }
-  }
-  return {};
-}
 
 struct Range {
   char32_t first;
   char32_t last;
 };
 
-// Characters that a terminal does not show as themselves.
-constexpr std::array<Range, 8> kUnshown{{
-    {0x0000, 0x001F},  // controls
+// What a terminal does not show as itself: controls, ends of lines and
+// paragraphs, and whatever Unicode calls ignorable by default.
+constexpr Range kUnshown[] = {
+    {0x0000, 0x001F},    // controls
+    {0x007F, 0x009F},    // delete, and the controls of eight-bit terminals
+    {0x00AD, 0x00AD},    // soft hyphen
+    {0x034F, 0x034F},    // combining grapheme joiner
+    {0x061C, 0x061C},    // Arabic letter mark
+    {0x115F, 0x1160},    // Hangul fillers
+    {0x17B4, 0x17B5},    // Khmer inherent vowels
+    {0x180B, 0x180F},    // Mongolian variation selectors and vowel separator
+    {0x200B, 0x200F},    // without width, and direction marks
+    {0x2028, 0x202E},    // line and paragraph ends, direction overrides
+    {0x2060, 0x206F},    // without width, and direction isolates
+    {0x3164, 0x3164},    // Hangul filler
+    {0xFE00, 0xFE0F},    // variation selectors
+    {0xFEFF, 0xFEFF},    // byte order mark
+    {0xFFA0, 0xFFA0},    // halfwidth Hangul filler
+    {0xFFF0, 0xFFFB},    // unassigned, and interlinear annotation
+    {0x1BCA0, 0x1BCA3},  // shorthand format controls
+    {0x1D173, 0x1D17A},  // musical format controls
+    {0xE0000, 0xE0FFF},  // tags and variation selectors
+};
+
+// What a reader of JSON cannot be expected to leave alone.
+constexpr Range kEscapedInJson[] = {
     {0x007F, 0x009F},  // delete, and the controls of eight-bit terminals
     {0x061C, 0x061C},  // Arabic letter mark
-    {0x200B, 0x200F},  // without width, and direction marks
-    {0x2028, 0x202E},  // line and paragraph ends, direction overrides
-    {0x2060, 0x206F},  // without width, and direction isolates
-    {0xFEFF, 0xFEFF},  // byte order mark
-    {0xFFF9, 0xFFFB},  // interlinear annotation
-}};
+    {0x200E, 0x200F},  // direction marks
+    {0x202A, 0x202E},  // direction embeddings and overrides
+    {0x2066, 0x2069},  // direction isolates
+};
 
-bool IsShown(char32_t value) {
-  return std::none_of(kUnshown.begin(), kUnshown.end(), [value](const Range& range) {
-    return value >= range.first && value <= range.last;
-  });
+bool IsIn(std::span<const Range> ranges, char32_t value) {
+  return std::ranges::any_of(
+      ranges, [value](const Range& one) { return value >= one.first && value <= one.last; });
 }
 
-void AppendHex(std::string& out, std::string_view bytes) {
-  constexpr std::string_view kDigits = "0123456789ABCDEF";
-  for (const char character : bytes) {
-    const auto byte = static_cast<unsigned char>(character);
-    out += "\\x";
-    out += kDigits[byte >> 4U];
-    out += kDigits[byte & 0xFU];
+bool IsPlain(char character) { return character >= ' ' && character <= '~'; }
+
+// Keeps printable ASCII and escapes bytes that are not valid UTF-8; of any
+// other code point and its bytes the function appends what it likes.
+template <typename Function>
+std::string Rewrite(std::string_view text, const Function& append) {
+  std::string out;
+  out.reserve(text.size());
+  while (true) {
+    const auto plainEnd = std::ranges::find_if_not(text, IsPlain);
+    const auto plain = static_cast<std::size_t>(plainEnd - text.begin());
+    out += text.substr(0, plain);
+    text.remove_prefix(plain);
+    if (text.empty()) {
+      return out;
+    }
+    const CodePoint codePoint = DecodeFront(text);
+    const std::size_t taken = std::max<std::size_t>(codePoint.length, 1);
+    if (codePoint.length == 0) {
+      AppendEscapedByte(out, static_cast<unsigned char>(text.front()));
+    } else {
+      append(out, codePoint.value, text.substr(0, taken));
+    }
+    text.remove_prefix(taken);
   }
 }
 
-void AppendForPeople(std::string& out, const CodePoint& codePoint, std::string_view bytes) {
-  switch (codePoint.value) {
+void AppendForPeople(std::string& out, char32_t value, std::string_view bytes) {
+  switch (value) {
     case U'\n':
       out += "\\n";
       return;
@@ -106,51 +93,39 @@ void AppendForPeople(std::string& out, const CodePoint& codePoint, std::string_v
     default:
       break;
   }
-  if (IsShown(codePoint.value)) {
+  if (!IsIn(kUnshown, value)) {
     out += bytes;
-  } else {
-    AppendHex(out, bytes);
+    return;
   }
+  for (const char byte : bytes) {
+    AppendEscapedByte(out, static_cast<unsigned char>(byte));
+  }
+}
+
+void AppendForJson(std::string& out, char32_t value, std::string_view bytes) {
+  if (!IsIn(kEscapedInJson, value)) {
+    out += bytes;
+    return;
+  }
+  out += "\\u";
+  AppendHexPair(out, static_cast<unsigned char>(value >> 8U));
+  AppendHexPair(out, static_cast<unsigned char>(value & 0xFFU));
 }
 
 }  // namespace
 
+void AppendEscapedByte(std::string& out, unsigned char byte) {
+  out += "\\x";
+  AppendHexPair(out, byte);
+}
+
 std::string ToValidUtf8(std::string_view text) {
-  std::string out;
-  out.reserve(text.size());
-  while (!text.empty()) {
-    const CodePoint codePoint = DecodeFront(text);
-    const std::size_t taken = std::max<std::size_t>(codePoint.length, 1);
-    if (codePoint.length == 0) {
-      AppendHex(out, text.substr(0, taken));
-    } else {
-      out += text.substr(0, taken);
-    }
-    text.remove_prefix(taken);
-  }
-  return out;
+  return Rewrite(
+      text, [](std::string& out, char32_t /*value*/, std::string_view bytes) { out += bytes; });
 }
 
-std::string EscapeForPeople(std::string_view text) {
-  std::string out;
-  out.reserve(text.size());
-  while (!text.empty()) {
-    const CodePoint codePoint = DecodeFront(text);
-    const std::size_t taken = std::max<std::size_t>(codePoint.length, 1);
-    if (codePoint.length == 0) {
-      AppendHex(out, text.substr(0, taken));
-    } else {
-      AppendForPeople(out, codePoint, text.substr(0, taken));
-    }
-    text.remove_prefix(taken);
-  }
-  return out;
-}
+std::string EscapeForPeople(std::string_view text) { return Rewrite(text, AppendForPeople); }
 
-std::size_t CountCodePoints(std::string_view text) {
-  return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), [](char character) {
-    return (static_cast<unsigned char>(character) & 0xC0U) != 0x80U;
-  }));
-}
+std::string EscapeJson(std::string_view json) { return Rewrite(json, AppendForJson); }
 
 }  // namespace strake::text

@@ -1,11 +1,13 @@
-// Text of unknown origin, made safe to write: for a terminal, and as UTF-8.
+// Text of unknown origin, made safe to write: for people, as UTF-8, in JSON.
 #pragma once
 
-#include <cstddef>
 #include <string>
 #include <string_view>
 
 namespace strake::text {
+
+// \xNN.
+void AppendEscapedByte(std::string& out, unsigned char byte);
 
 // Bytes that are not valid UTF-8 become \xNN; everything else stays.
 std::string ToValidUtf8(std::string_view text);
@@ -15,7 +17,8 @@ std::string ToValidUtf8(std::string_view text);
 // the writing direction or show nothing, and of invalid UTF-8 becomes \xNN.
 std::string EscapeForPeople(std::string_view text);
 
-// The number of code points of valid UTF-8.
-std::size_t CountCodePoints(std::string_view text);
+// Finished JSON, in valid UTF-8, with U+007F to U+009F and the characters that
+// turn the writing direction as \uXXXX: another spelling of the same texts.
+std::string EscapeJson(std::string_view json);
 
 }  // namespace strake::text

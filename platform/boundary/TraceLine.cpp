@@ -1,29 +1,24 @@
 #include "platform/boundary/TraceLine.h"
 
+#include "text/HexBytes.h"
+
 namespace strake::platform {
 namespace {
 
-constexpr std::string_view kUpperHex = "0123456789ABCDEF";
-
-void AppendHexPair(std::string& text, unsigned char byte) {
-  text += kUpperHex[byte >> 4U];
-  text += kUpperHex[byte & 0xFU];
-}
-
 // Writes the code point of the byte's value. What a terminal would obey is
 // escaped, beyond what JSON asks for.
-void AppendByte(std::string& text, unsigned char byte) {
+void AppendByte(std::string& line, unsigned char byte) {
   if (byte == '"' || byte == '\\') {
-    text += '\\';
-    text += static_cast<char>(byte);
+    line += '\\';
+    line += static_cast<char>(byte);
   } else if (byte < 0x20 || (byte >= 0x7F && byte < 0xA0)) {
-    text += "\\u00";
-    AppendHexPair(text, byte);
+    line += "\\u00";
+    text::AppendHexPair(line, byte);
   } else if (byte < 0x7F) {
-    text += static_cast<char>(byte);
+    line += static_cast<char>(byte);
   } else {
-    text += static_cast<char>(0xC0U | (byte >> 6U));
-    text += static_cast<char>(0x80U | (byte & 0x3FU));
+    line += static_cast<char>(0xC0U | (byte >> 6U));
+    line += static_cast<char>(0x80U | (byte & 0x3FU));
   }
 }
 
@@ -68,7 +63,7 @@ TraceLine& TraceLine::Hex(std::string_view key, std::span<const unsigned char> b
   Key(key);
   fLine += '"';
   for (const unsigned char byte : bytes) {
-    AppendHexPair(fLine, byte);
+    text::AppendHexPair(fLine, byte);
   }
   fLine += '"';
   return *this;

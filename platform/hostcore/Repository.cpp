@@ -7,6 +7,7 @@
 #include "platform/hostcore/RepositoryState.h"
 
 #include <boost/make_shared.hpp>
+#include <utility>
 
 namespace strake::platform {
 
@@ -37,6 +38,10 @@ boost::shared_ptr<ICIMClass> Repository::RequestedClass(const std::string& name)
 }
 
 const std::vector<cim::StoredInstance>& Repository::Committed() const { return fState->committed; }
+
+std::vector<cim::StoredInstance> Repository::TakeCommitted() {
+  return std::exchange(fState->committed, {});
+}
 
 long Repository::HandlesHeld() const { return fState.use_count() - 1; }
 

@@ -30,6 +30,8 @@ class Repository : public NVELKZEV20::ICIMNamespace {
 
   // In commit order.
   [[nodiscard]] const std::vector<cim::StoredInstance>& Committed() const;
+  // The same, handed over: the repository is empty then.
+  [[nodiscard]] std::vector<cim::StoredInstance> TakeCommitted();
   // How many of its classes and instances are held by anybody.
   [[nodiscard]] long HandlesHeld() const;
 

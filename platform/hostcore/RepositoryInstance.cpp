@@ -15,32 +15,33 @@ using NVELKZEV20::TCIMDateTime;
 using NVELKZEV20::TCIMValue;
 using NVELKZEV20::TCIMValueContent;
 
-// An empty value has no type, so nobody can be told of it: it is refused first.
-cim::CimType TypeOf(const std::string& name, const TCIMValue& value) {
-  struct Types {
-    const std::string& name;
-    cim::CimType operator()(const std::monostate& /*empty*/) const {
-      throw std::invalid_argument("property " + name + " was given an empty value");
+// An empty value has no type, so nobody can be told of it.
+void RefuseEmpty(const std::string& name, const TCIMValue& value) {
+  if (std::holds_alternative<std::monostate>(TCIMValueContent::Of(value))) {
+    throw std::invalid_argument("property " + name + " was given an empty value");
+  }
+}
+
+// The value is not empty.
+cim::Value ValueOf(const TCIMValue& value) {
+  struct Values {
+    cim::Value operator()(const std::monostate& /*empty*/) const { return {}; }
+    cim::Value operator()(const TCIMDateTime& dateTime) const {
+      return cim::DateTime(dateTime.ToString());
     }
-    cim::CimType operator()(const std::string& /*text*/) const { return cim::CimType::String; }
-    cim::CimType operator()(std::int32_t /*number*/) const { return cim::CimType::Sint32; }
-    cim::CimType operator()(std::uint16_t /*number*/) const { return cim::CimType::Uint16; }
-    cim::CimType operator()(std::uint8_t /*number*/) const { return cim::CimType::Uint8; }
-    cim::CimType operator()(const TCIMDateTime& /*dateTime*/) const {
-      return cim::CimType::DateTime;
-    }
+    cim::Value operator()(const std::string& text) const { return text; }
+    cim::Value operator()(std::int32_t number) const { return number; }
+    cim::Value operator()(std::uint16_t number) const { return number; }
+    cim::Value operator()(std::uint8_t number) const { return number; }
   };
-  return std::visit(Types{name}, TCIMValueContent::Of(value));
+  return std::visit(Values{}, TCIMValueContent::Of(value));
 }
 
 }  // namespace
 
 RepositoryInstance::RepositoryInstance(const boost::shared_ptr<RepositoryState>& state,
                                        const cim::SchemaClass& schemaClass, unsigned long number)
-    : fState(state),
-      fSchemaClass(schemaClass),
-      fNumber(number),
-      fStored{std::string(schemaClass.name), number, {}} {
+    : fState(state), fSchemaClass(schemaClass), fNumber(number), fStored{&schemaClass, number, {}} {
   fStored.properties.reserve(schemaClass.properties.size());
 }
 
@@ -58,7 +59,7 @@ void RepositoryInstance::Commit(NVELKZEV20::TNameToValueMap /*options*/) {
 
 void RepositoryInstance::SetProperty(const std::string& name, const TCIMValue& value,
                                      NVELKZEV20::TNameToValueMap /*qualifiers*/) {
-  const cim::CimType type = TypeOf(name, value);
+  RefuseEmpty(name, value);
   // What is refused was said all the same, so the observer comes first.
   if (BoundaryObserver* const observer = HostObserver(); observer != nullptr) {
     BeginCall(observer, BoundaryCall::SetProperty);
@@ -67,7 +68,8 @@ void RepositoryInstance::SetProperty(const std::string& name, const TCIMValue& v
   if (fCommitted) {
     RefuseCommitted("cannot take property " + name);
   }
-  Store(CheckProperty(name, type), name, value);
+  cim::Value stored = ValueOf(value);
+  Store(CheckProperty(name, cim::TypeOf(stored)), std::move(stored));
 }
 
 void RepositoryInstance::RefuseCommitted(const std::string& what) const {
@@ -75,7 +77,8 @@ void RepositoryInstance::RefuseCommitted(const std::string& what) const {
                          std::string(fSchemaClass.name) + " is committed and " + what);
 }
 
-std::size_t RepositoryInstance::CheckProperty(const std::string& name, cim::CimType type) const {
+const cim::SchemaProperty& RepositoryInstance::CheckProperty(const std::string& name,
+                                                             cim::CimType type) const {
   const cim::SchemaProperty* const property = cim::FindSchemaProperty(fSchemaClass, name);
   if (property == nullptr) {
     throw std::invalid_argument("class " + std::string(fSchemaClass.name) + " has no property " +
@@ -86,18 +89,18 @@ std::size_t RepositoryInstance::CheckProperty(const std::string& name, cim::CimT
                                 " has type " + std::string(cim::CimTypeName(property->type)) +
                                 ", not " + std::string(cim::CimTypeName(type)));
   }
-  return static_cast<std::size_t>(property - fSchemaClass.properties.data());
+  return *property;
 }
 
-void RepositoryInstance::Store(std::size_t schemaIndex, const std::string& name,
-                               const TCIMValue& value) {
-  if (!fIsSet.test(schemaIndex)) {
-    fStored.properties.emplace_back(name, value);
-    fIsSet.set(schemaIndex);
+void RepositoryInstance::Store(const cim::SchemaProperty& property, cim::Value&& value) {
+  const auto place = static_cast<std::size_t>(&property - fSchemaClass.properties.data());
+  if (!fIsSet.test(place)) {
+    fStored.properties.push_back({&property, std::move(value)});
+    fIsSet.set(place);
     return;
   }
-  std::ranges::find(fStored.properties, name, &std::pair<std::string, TCIMValue>::first)->second =
-      value;
+  std::ranges::find(fStored.properties, &property, &cim::StoredProperty::schema)->value =
+      std::move(value);
 }
 
 }  // namespace strake::platform

@@ -11,9 +11,6 @@
 
 namespace strake::platform {
 
-// No class of the schema has more properties.
-inline constexpr std::size_t kMostProperties = 64;
-
 class RepositoryInstance : public NVELKZEV20::ICIMInstance {
  public:
   RepositoryInstance(const boost::shared_ptr<RepositoryState>& state,
@@ -25,14 +22,15 @@ class RepositoryInstance : public NVELKZEV20::ICIMInstance {
 
  private:
   [[noreturn]] void RefuseCommitted(const std::string& what) const;
-  [[nodiscard]] std::size_t CheckProperty(const std::string& name, cim::CimType type) const;
-  void Store(std::size_t schemaIndex, const std::string& name, const NVELKZEV20::TCIMValue& value);
+  [[nodiscard]] const cim::SchemaProperty& CheckProperty(const std::string& name,
+                                                         cim::CimType type) const;
+  void Store(const cim::SchemaProperty& property, cim::Value&& value);
 
   boost::shared_ptr<RepositoryState> fState;
   const cim::SchemaClass& fSchemaClass;
   const unsigned long fNumber;
   cim::StoredInstance fStored;
-  std::bitset<kMostProperties> fIsSet;  // by place in the schema
+  std::bitset<cim::kMostProperties> fIsSet;  // by place in the schema
   bool fCommitted = false;
 };
 

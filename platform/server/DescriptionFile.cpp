@@ -1,6 +1,6 @@
 // Reads a description out of a file, without trusting its size or its kind.
 #include "platform/server/ServerDescription.h"
-#include "text/Quote.h"
+#include "text/TextEscape.h"
 
 #include <cerrno>
 #include <cstdio>
@@ -16,7 +16,7 @@ struct Closer {
 };
 
 [[noreturn]] void Refuse(const std::string& name, int error) {
-  throw DescriptionError(text::PrintableName(name) +
+  throw DescriptionError(text::EscapeForPeople(name) +
                          ": cannot be read: " + std::generic_category().message(error));
 }
 

@@ -7,6 +7,7 @@
 #include "platform/server/Replies.h"
 #include "text/DotNotation.h"
 #include "text/Quote.h"
+#include "text/TextEscape.h"
 
 #include <array>
 #include <cstdint>
@@ -170,7 +171,7 @@ SpDescription ReadSp(const Field& field) {
 }  // namespace
 
 ServerDescription ParseServerDescription(std::string_view text, const std::string& source) {
-  const std::string name = text::PrintableName(source);
+  const std::string name = text::EscapeForPeople(source);
   if (text.size() > kMostDescriptionBytes) {
     throw DescriptionError(name + ": expected at most " + std::to_string(kMostDescriptionBytes) +
                            " bytes, got more");

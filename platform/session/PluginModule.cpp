@@ -1,6 +1,6 @@
 #include "platform/session/PluginModule.h"
 
-#include "text/Quote.h"
+#include "text/TextEscape.h"
 
 #include <string>
 
@@ -14,7 +14,7 @@ constexpr const char* kEntryName = "StrakeModuleEntry";
 PluginModule::PluginModule(const std::filesystem::path& file)
     : fModule(file), fEntry(reinterpret_cast<ModuleEntry>(fModule.Find(kEntryName))) {
   if (fEntry == nullptr) {
-    throw os::ModuleError(text::PrintableName(file.string()) + ": the module lacks the entry \"" +
+    throw os::ModuleError(text::EscapeForPeople(file.string()) + ": the module lacks the entry \"" +
                           kEntryName + "\"");
   }
 }

@@ -3,9 +3,11 @@
 #include "app/CommandLine.h"
 #include "app/Errors.h"
 #include "app/ModulePath.h"
+#include "cim/Catalogue.h"
 #include "tests/support/Places.h"
 #include "tests/support/TemporaryFolder.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <variant>
 
@@ -41,7 +43,7 @@ TEST(CommandLine, HasTheDefaultsOfItsHelp) {
   EXPECT_EQ(options.demo, "demo-orlo");
   EXPECT_TRUE(options.classes.empty());
   EXPECT_TRUE(options.queries.empty());
-  EXPECT_EQ(options.format, app::ReportFormat::Table);
+  EXPECT_EQ(options.format->name, "table");
   EXPECT_EQ(options.logLevel, 1);
   EXPECT_FALSE(options.showSecrets);
   EXPECT_FALSE(options.quiet);
@@ -53,7 +55,7 @@ TEST(CommandLine, TakesEveryOption) {
        "--log", "l", "--log-level", "0", "--show-secrets", "--quiet", "--plugin", "p"});
   EXPECT_EQ(options.server, "s");
   EXPECT_EQ(options.queries, std::vector<std::string>{"A,B"});
-  EXPECT_EQ(options.format, app::ReportFormat::Json);
+  EXPECT_EQ(options.format->name, "json");
   EXPECT_EQ(options.output, "o");
   EXPECT_EQ(options.trace, "t");
   EXPECT_EQ(options.log, "l");
@@ -62,6 +64,48 @@ TEST(CommandLine, TakesEveryOption) {
   EXPECT_TRUE(options.quiet);
   EXPECT_EQ(options.plugin, "p");
   EXPECT_EQ(Collect({"--demo", "demo-tavit"}).demo, "demo-tavit");
+}
+
+TEST(CommandLine, TakesTheFormatOfTheOutputsEndingUnlessOneIsGiven) {
+  const struct {
+    Words words;
+    std::string format;
+  } cases[] = {
+      {{"--output", "a.json"}, "json"},      {{"--output", "a.json", "--format", "table"}, "table"},
+      {{"--output", "a.txt"}, "table"},      {{"--output", "a.txt", "--format", "json"}, "json"},
+      {{"--output", "a.json.bak"}, "table"}, {{"--output", "json"}, "table"},
+      {{"--trace", "a.json"}, "table"},
+  };
+  for (const auto& one : cases) {
+    EXPECT_EQ(Collect(one.words).format->name, one.format) << one.words[1];
+  }
+}
+
+TEST(CommandLine, TakesEveryFormatOfTheTableAndNamesItInHelpAndRefusal) {
+  const std::string help = std::get<app::TextAnswer>(Parse({"collect", "--help"})).text;
+  const std::string refusal = RefusalOf({"collect", "--format", "xml"});
+  EXPECT_NE(help.find(report::FormatNames()), std::string::npos) << help;
+  for (const report::Format& format : report::Formats()) {
+    const std::string name(format.name);
+    EXPECT_EQ(Collect({"--format", name.c_str()}).format, &format);
+    EXPECT_NE(help.find(name), std::string::npos) << name;
+    EXPECT_NE(refusal.find(name), std::string::npos) << name;
+  }
+}
+
+TEST(CommandLine, NamesOnlyClassesOfTheCatalogueInItsHelp) {
+  int named = 0;
+  for (const Words& words : {Words{"--help"}, Words{"collect", "--help"}}) {
+    const std::string help = std::get<app::TextAnswer>(Parse(words)).text;
+    for (auto at = help.find("VELKSG_"); at != std::string::npos; at = help.find("VELKSG_", at)) {
+      const auto end = std::min(help.find_first_of(", \n", at), help.size());
+      const std::string name = help.substr(at, end - at);
+      EXPECT_NE(cim::FindSchemaClass(name), nullptr) << name;
+      ++named;
+      at = end;
+    }
+  }
+  EXPECT_GT(named, 0);
 }
 
 TEST(CommandLine, LogsEverythingToALogFileUnlessALevelIsGiven) {

@@ -1,7 +1,9 @@
 // The command from outside: what it prints and how it ends.
+#include "report/Timestamp.h"
 #include "tests/app/Command.h"
 #include "tests/support/TemporaryFolder.h"
 
+#include <chrono>
 #include <gtest/gtest.h>
 #include <sstream>
 #include <unistd.h>
@@ -22,24 +24,40 @@ const std::string kSystemTable = R"(rack7.server.json (orlo): One card
 Service processor 1
 
   Computer system (VELKSG_SP_ComputerSystem)
-    Name     SRV1:Node1
-    SPClock  2010-06-15 13:45:30 UTC-02:00
+    Name   SRV1:Node1
+    Clock  2010-06-15 13:45:30 UTC-02:00
 
 1 instance, 1 query, 1 service processor
 )";
 
 const std::string kServerJson =
-    "{\n  \"format\": \"strake-report/1\",\n"
-    "  \"server\": {\"name\": \"rack7.server.json\", \"description\": \"One card\", "
-    "\"kind\": \"orlo\"},\n  \"instances\": [";
+    "{\n  \"format\": \"strake-report/1\",\n  \"strake\": \"" STRAKE_VERSION
+    "\",\n  \"collected_at\": \"TIME\",\n"
+    "  \"server\": {\"name\":\"rack7.server.json\",\"description\":\"One card\","
+    "\"kind\":\"orlo\"},\n  \"instances\": [";
 
 const std::string kSystemJson =
     kServerJson +
-    "\n    {\"class\": \"VELKSG_SP_ComputerSystem\", \"properties\": "
-    "{\"CreationClassName\": \"VELKSG_SP_ComputerSystem\", \"SourceNode\": 1, "
-    "\"Name\": \"SRV1:Node1\", \"SPClock\": \"20100615134530.000000-120\"}}\n  ]\n}\n";
+    "\n    {\"class\":\"VELKSG_SP_ComputerSystem\",\"properties\":"
+    "{\"CreationClassName\":\"VELKSG_SP_ComputerSystem\",\"SourceNode\":1,"
+    "\"Name\":\"SRV1:Node1\",\"SPClock\":\"20100615134530.000000-120\"}}\n  ]\n}\n";
 
 const std::string kNoInstancesJson = kServerJson + "]\n}\n";
+
+// With TIME in place of a time between the two.
+Outcome WithoutTime(Outcome outcome, std::chrono::sys_seconds from, std::chrono::sys_seconds to) {
+  for (auto moment = from; moment <= to; moment += std::chrono::seconds(1)) {
+    const std::string text = report::Timestamp(moment);
+    if (const auto at = outcome.out.find(text); at != std::string::npos) {
+      outcome.out.replace(at, text.size(), "TIME");
+    }
+  }
+  return outcome;
+}
+
+std::chrono::sys_seconds Now() {
+  return std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now());
+}
 
 class CommandTest : public testing::Test {
  protected:
@@ -47,6 +65,14 @@ class CommandTest : public testing::Test {
   [[nodiscard]] Outcome Collect(std::vector<std::string> words) const {
     words.insert(words.begin(), {"collect", "--server", fServer});
     return Strake(words);
+  }
+
+  // The same as JSON, its time as TIME.
+  [[nodiscard]] Outcome CollectJson(std::vector<std::string> words) const {
+    words.insert(words.end(), {"--format", "json"});
+    const auto begin = Now();
+    const Outcome outcome = Collect(words);
+    return WithoutTime(outcome, begin, Now());
   }
 
   // The queries as the trace tells them.
@@ -72,8 +98,7 @@ TEST_F(CommandTest, PrintsATableOfWhatItCollected) {
 }
 
 TEST_F(CommandTest, PrintsJsonOfWhatItCollected) {
-  EXPECT_EQ(Collect({"--class", "VELKSG_SP_ComputerSystem", "--format", "json"}),
-            (Outcome{0, kSystemJson, ""}));
+  EXPECT_EQ(CollectJson({"--class", "VELKSG_SP_ComputerSystem"}), (Outcome{0, kSystemJson, ""}));
 }
 
 TEST_F(CommandTest, AsksForAllClassesInFourQueries) {
@@ -96,7 +121,7 @@ TEST_F(CommandTest, AsksForClassesInTheSystemsOrderAndForListsInTheirs) {
 }
 
 TEST_F(CommandTest, ReportsThatAQueryForNothingBroughtNothing) {
-  EXPECT_EQ(Collect({"--query", "", "--format", "json"}), (Outcome{0, kNoInstancesJson, ""}));
+  EXPECT_EQ(CollectJson({"--query", ""}), (Outcome{0, kNoInstancesJson, ""}));
   EXPECT_EQ(Collect({"--query", ""}).out,
             "rack7.server.json (orlo): One card\n\nNo instances were collected.\n"
             "0 instances, 1 query, 0 service processors\n");

@@ -88,7 +88,7 @@ TEST(Replies, AreRefusedWithTheirPlaceAndWhatWasExpected) {
       {"5", ": expected a reply (a string or an object), got 5"},
       {"null", ": expected a reply (a string or an object), got null"},
       {R"("F")", R"(: expected hexadecimal byte pairs, got "F")"},
-      {R"("é")", R"(: expected hexadecimal byte pairs, got "\xc3\xa9")"},
+      {R"("é")", R"(: expected hexadecimal byte pairs, got "\xC3\xA9")"},
       {R"({"hex":1})", "/hex: expected hexadecimal byte pairs, got 1"},
       {R"({"hex":"XY"})", R"(/hex: expected hexadecimal byte pairs, got "XY")"},
       {R"({"bytes":"00"})", R"(: expected no key but hex, length, succeeds, got "bytes")"},

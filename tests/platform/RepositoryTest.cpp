@@ -1,5 +1,4 @@
 #include "cim/EqualKeys.h"
-#include "cim/TCIMValueContent.h"
 #include "platform/hostcore/Repository.h"
 #include "tests/platform/TestServer.h"
 
@@ -12,7 +11,6 @@ using NVELKZEV20::ICIMClass;
 using NVELKZEV20::ICIMInstance;
 using NVELKZEV20::TCIMDateTime;
 using NVELKZEV20::TCIMValue;
-using NVELKZEV20::TCIMValueContent;
 using ClassHandle = boost::shared_ptr<ICIMClass>;
 using InstanceHandle = boost::shared_ptr<ICIMInstance>;
 
@@ -70,9 +68,9 @@ TEST_F(RepositoryTest, KeepsInstancesInCommitOrderWithTheirNumbers) {
   second->Commit({});
   first->Commit({});
   ASSERT_EQ(fRepository.Committed().size(), 2U);
-  EXPECT_EQ(fRepository.Committed()[0].className, kSensor);
+  EXPECT_EQ(fRepository.Committed()[0].schema->name, kSensor);
   EXPECT_EQ(fRepository.Committed()[0].number, 2U);
-  EXPECT_EQ(fRepository.Committed()[1].className, kSystem);
+  EXPECT_EQ(fRepository.Committed()[1].schema->name, kSystem);
   EXPECT_EQ(fRepository.Committed()[1].number, 1U);
 }
 
@@ -85,11 +83,11 @@ TEST_F(RepositoryTest, KeepsPropertiesInTheOrderInWhichTheyWereSet) {
   instance->Commit({});
   const cim::StoredInstance& stored = fRepository.Committed().front();
   ASSERT_EQ(stored.properties.size(), 3U);
-  EXPECT_EQ(stored.properties[0].first, "UnitModifier");
+  EXPECT_EQ(stored.properties[0].schema->name, "UnitModifier");
   // Set twice: the value is the last one, the place the first one.
-  EXPECT_EQ(std::get<std::int32_t>(TCIMValueContent::Of(stored.properties[0].second)), -3);
-  EXPECT_EQ(stored.properties[1].first, "BaseUnits");
-  EXPECT_EQ(stored.properties[2].first, "DeviceID");
+  EXPECT_EQ(std::get<std::int32_t>(stored.properties[0].value), -3);
+  EXPECT_EQ(stored.properties[1].schema->name, "BaseUnits");
+  EXPECT_EQ(stored.properties[2].schema->name, "DeviceID");
 }
 
 TEST_F(RepositoryTest, RefusesWhatTheSchemaDoesNotHave) {
@@ -146,9 +144,7 @@ TEST_F(RepositoryTest, TakesNothingMoreOnceAnInstanceIsCommitted) {
   EXPECT_EQ(TextThrownBy<std::logic_error>([&] { instance->SetProperty("Name", "b", {}); }),
             "instance 1 of VELKSG_SP_ComputerSystem is committed and cannot take property Name");
   ASSERT_EQ(fRepository.Committed().size(), 1U);
-  EXPECT_EQ(std::get<std::string>(
-                TCIMValueContent::Of(fRepository.Committed()[0].properties.at(0).second)),
-            "a");
+  EXPECT_EQ(std::get<std::string>(fRepository.Committed()[0].properties.at(0).value), "a");
 }
 
 TEST_F(RepositoryTest, CopiesTheValuesThatItIsGiven) {
@@ -158,8 +154,7 @@ TEST_F(RepositoryTest, CopiesTheValuesThatItIsGiven) {
     instance->SetProperty("Name", value, {});
   }
   instance->Commit({});
-  EXPECT_EQ(std::get<std::string>(
-                TCIMValueContent::Of(fRepository.Committed()[0].properties.at(0).second)),
+  EXPECT_EQ(std::get<std::string>(fRepository.Committed()[0].properties.at(0).value),
             std::string(100, 'x'));
 }
 
@@ -196,10 +191,10 @@ TEST_F(RepositoryTest, KeepsInstancesWithEqualKeysAndReportsThem) {
   EXPECT_EQ(fRepository.Committed().size(), 7U);
   const std::vector<cim::EqualKeys> groups = cim::FindEqualKeys(fRepository.Committed());
   ASSERT_EQ(groups.size(), 2U);
-  EXPECT_EQ(groups[0].className, kSystem);
+  EXPECT_EQ(groups[0].schema->name, kSystem);
   EXPECT_EQ(groups[0].keys, "SourceNode=1, Name=B");
   EXPECT_EQ(groups[0].count, 3U);
-  EXPECT_EQ(groups[1].className, kSensor);
+  EXPECT_EQ(groups[1].schema->name, kSensor);
   EXPECT_EQ(groups[1].keys, "");
   EXPECT_EQ(groups[1].count, 2U);
 }

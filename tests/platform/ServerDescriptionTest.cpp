@@ -145,7 +145,7 @@ TEST(ServerDescription, IsRefusedWithThePlaceAndWhatWasExpected) {
       {WithRoot(R"("Description":"x")"),
        "at the top level: expected no key but " + std::string(rootKeys) + ", got \"Description\""},
       {WithRoot(R"("\n\u00e9":"x")"), "at the top level: expected no key but " +
-                                          std::string(rootKeys) + ", got \"\\x0a\\xc3\\xa9\""},
+                                          std::string(rootKeys) + ", got \"\\x0A\\xC3\\xA9\""},
       {WithRoot(R"("description":null)"), "at /description: expected a string, got null"},
       {WithRoot(R"("machine_type_model":5127)"),
        "at /machine_type_model: expected a string or {\"throws\": TEXT}, got 5127"},
@@ -372,7 +372,7 @@ TEST(ServerDescription, NamesItsSourceOnOneLine) {
     FAIL();
   } catch (const DescriptionError& error) {
     EXPECT_STREQ(error.what(),
-                 "odd\\x0aname\\x1b.json: at the top level: expected the key \"format\", got none");
+                 "odd\\nname\\x1B.json: at the top level: expected the key \"format\", got none");
   }
 }
 

@@ -1,28 +1,42 @@
 // Stored instances put together by hand, for the reports.
 #pragma once
 
-#include "report/Report.h"
+#include "report/Writer.h"
 
+#include <stdexcept>
 #include <string>
 #include <utility>
 #include <vector>
 
 namespace strake::tests {
 
-using Properties = std::vector<std::pair<std::string, NVELKZEV20::TCIMValue>>;
+using Properties = std::vector<std::pair<std::string, cim::Value>>;
 
+// Throws std::out_of_range: the catalogue does not have these names.
 inline cim::StoredInstance Instance(const std::string& className, const Properties& properties) {
-  return {className, 0, properties};
+  cim::StoredInstance instance{cim::FindSchemaClass(className), 0, {}};
+  if (instance.schema == nullptr) {
+    throw std::out_of_range(className);
+  }
+  for (const auto& [name, value] : properties) {
+    const auto* const property = cim::FindSchemaProperty(*instance.schema, name);
+    if (property == nullptr) {
+      throw std::out_of_range(className + "." + name);
+    }
+    instance.properties.push_back({property, value});
+  }
+  return instance;
 }
 
 // A value of an eight-bit number: the node's type.
-inline NVELKZEV20::TCIMValue Node(unsigned char number) { return {number}; }
-inline NVELKZEV20::TCIMValue Units(unsigned short number) { return {number}; }
+inline cim::Value Node(std::uint8_t number) { return {number}; }
+inline cim::Value Units(std::uint16_t number) { return {number}; }
 
-inline cim::StoredInstance Sensor(unsigned char node, const std::string& name, int reading,
-                                  unsigned short units, int modifier) {
+inline cim::StoredInstance Sensor(std::uint8_t node, const std::string& name, int reading,
+                                  std::uint16_t units, int modifier) {
   return Instance("VELKSG_SP_NumericSensor", {{"CreationClassName", "VELKSG_SP_NumericSensor"},
                                               {"SourceNode", Node(node)},
+                                              {"DeviceID", name + "-Node" + std::to_string(node)},
                                               {"SensorDescription", name},
                                               {"CurrentReading", reading},
                                               {"BaseUnits", Units(units)},
@@ -30,18 +44,27 @@ inline cim::StoredInstance Sensor(unsigned char node, const std::string& name, i
 }
 
 // 15 June 2010, 13:45:30, two hours behind.
-inline NVELKZEV20::TCIMDateTime SomeTime() {
-  NVELKZEV20::TCIMDateTime time;
-  time.Set(2010, 6, 15, 13, 45, 30, 0, -120);
-  return time;
+inline cim::Value SomeTime() { return cim::DateTime("20100615134530.000000-120"); }
+
+inline report::CollectionFacts SomeFacts() {
+  return {.server = {"rack7", "", "orlo"},
+          .version = "1.2.3",
+          .collectedAt = std::chrono::sys_days(std::chrono::year(2024) / 3 / 18) +
+                         std::chrono::hours(9) + std::chrono::minutes(41) + std::chrono::seconds(7),
+          .queries = 1};
 }
 
-inline report::Report ReportOf(const std::vector<cim::StoredInstance>& instances) {
-  report::Report report;
-  report.server = {"rack7", "", "orlo"};
-  report.instances = instances;
-  report.queries = 1;
-  return report;
+inline report::Report ReportOf(const std::vector<cim::StoredInstance>& instances,
+                               const report::CollectionFacts& facts = SomeFacts(),
+                               report::Secrets secrets = report::Secrets::Masked) {
+  return {facts, instances, secrets};
+}
+
+inline std::string Written(report::Writer writer, const report::Report& report,
+                           report::Colour colour = report::Colour::Never) {
+  std::string out;
+  writer(report, colour, [&out](std::string_view text) { out += text; });
+  return out;
 }
 
 }  // namespace strake::tests

@@ -8,10 +8,15 @@ namespace strake::tests {
 namespace {
 
 using report::Colour;
-using report::TableReport;
 
 std::string Table(const std::vector<cim::StoredInstance>& instances) {
-  return TableReport(ReportOf(instances), Colour::Never);
+  return Written(report::WriteTable, ReportOf(instances));
+}
+
+std::string Table(const std::vector<cim::StoredInstance>& instances,
+                  const report::CollectionFacts& facts,
+                  report::Secrets secrets = report::Secrets::Masked) {
+  return Written(report::WriteTable, ReportOf(instances, facts, secrets));
 }
 
 TEST(TableReport, WithoutInstancesSaysSo) {
@@ -32,16 +37,16 @@ TEST(TableReport, GroupsByServiceProcessorAndThenByClass) {
                                             {"Name", "SRV1:Node1"},
                                             {"SPClock", SomeTime()}}),
   };
-  report::Report report = ReportOf(instances);
-  report.server.description = "Two cards";
-  report.queries = 2;
-  EXPECT_EQ(TableReport(report, Colour::Never), R"(rack7 (orlo): Two cards
+  report::CollectionFacts facts = SomeFacts();
+  facts.server.description = "Two cards";
+  facts.queries = 2;
+  EXPECT_EQ(Table(instances, facts), R"(rack7 (orlo): Two cards
 
 Service processor 1
 
   Computer system (VELKSG_SP_ComputerSystem)
-    Name     SRV1:Node1
-    SPClock  2010-06-15 13:45:30 UTC-02:00
+    Name   SRV1:Node1
+    Clock  2010-06-15 13:45:30 UTC-02:00
 
   Sensors (VELKSG_SP_NumericSensor)
     Fan  74 %
@@ -135,17 +140,15 @@ TEST(TableReport, LosesNoPropertyThatStandsWithoutTheOneItBelongsTo) {
   EXPECT_EQ(Table({Instance("VELKSG_ServProc_IPProtocolEndpoint",
                             {{"SystemCreationClassName", "CIM_ComputerSystem"},
                              {"HostIPSubnetMask", "255.255.255.0"},
-                             {"DHCPAssignedIPAddress", "192.0.2.99"},
-                             {"Unheard", "of"}})}),
+                             {"DHCPAssignedIPAddress", "192.0.2.99"}})}),
             R"(rack7 (orlo)
 
 No service processor
 
   Network interface (VELKSG_ServProc_IPProtocolEndpoint)
-    SystemCreationClassName  CIM_ComputerSystem
-    HostIPSubnetMask         255.255.255.0
-    DHCP address             192.0.2.99
-    Unheard                  of
+    System class  CIM_ComputerSystem
+    Subnet mask   255.255.255.0
+    DHCP address  192.0.2.99
 
 1 instance, 1 query, 0 service processors
 )");
@@ -159,38 +162,39 @@ TEST(TableReport, ShowsSharedClassNamesAndMasksSecrets) {
                 {"SystemName", "SRV1"},
                 {"Instance", "2"},
                 {"DialoutID", ""},
-                {"DialoutPassword", "hunter2"}})};
-  report::Report report = ReportOf(instances);
+                {"DialoutPassword", "hunter2"},
+                {"PPPPassword", ""}})};
   const std::string masked = R"(rack7 (orlo)
 
 Service processor 1
 
   Dial-out entry 2 (VELKSG_ServProc_DialProtocolEndpoint1)
-    CreationClassName  VELKSG_ServProc_DialProtocolEndpoint
-    System             SRV1
-    DialoutID
-    DialoutPassword    ********
+    Creation class  VELKSG_ServProc_DialProtocolEndpoint
+    System          SRV1
+    Login ID
+    Password        ********
+    PPP password
 
 1 instance, 1 query, 1 service processor
 )";
-  EXPECT_EQ(TableReport(report, Colour::Never), masked);
-  report.showSecrets = true;
+  EXPECT_EQ(Table(instances), masked);
   std::string clear = masked;
   clear.replace(clear.find("********"), 8, "hunter2");
-  EXPECT_EQ(TableReport(report, Colour::Never), clear);
+  EXPECT_EQ(Table(instances, SomeFacts(), report::Secrets::Shown), clear);
 }
 
 TEST(TableReport, ShowsNoControlByteOfAServiceProcessor) {
-  report::Report report = ReportOf({});
-  const std::vector<cim::StoredInstance> instances = {
-      Instance("VELKSG_SP_ComputerSystem", {{"SourceNode", Node(1)}, {"Name", "a\x1b[2J\nb\xFF"}}),
-      Sensor(1, "Fan\x07", 1, 65, 0)};
-  report.instances = instances;
-  report.server = {"x\x1b", "y\r", "tavit"};
-  report.equalKeys = {{"VELKSG_SP_ComputerSystem", "Name=a\x1b", 3}};
-  EXPECT_EQ(TableReport(report, Colour::Never), R"(x\x1B (tavit): y\r
+  const cim::StoredInstance system =
+      Instance("VELKSG_SP_ComputerSystem", {{"SourceNode", Node(1)}, {"Name", "a\x1b[2J\nb\xFF"}});
+  report::CollectionFacts facts = SomeFacts();
+  facts.server = {"x\x1b", "y\r", "tavit"};
+  EXPECT_EQ(Table({system, system, Sensor(1, "Fan\x07", 1, 65, 0)}, facts),
+            R"(x\x1B (tavit): y\r
 
 Service processor 1
+
+  Computer system (VELKSG_SP_ComputerSystem)
+    Name  a\x1B[2J\nb\xFF
 
   Computer system (VELKSG_SP_ComputerSystem)
     Name  a\x1B[2J\nb\xFF
@@ -198,14 +202,14 @@ Service processor 1
   Sensors (VELKSG_SP_NumericSensor)
     Fan\x07  1 %
 
-2 instances, 1 query, 1 service processor
-Warning: 3 instances of VELKSG_SP_ComputerSystem have equal keys: Name=a\x1B
+3 instances, 1 query, 1 service processor
+Warning: 2 instances of VELKSG_SP_ComputerSystem have equal keys: SourceNode=1, Name=a\x1B[2J\nb\xFF
 )");
 }
 
 TEST(TableReport, ColoursHeadingsAndNothingElse) {
   const std::vector<cim::StoredInstance> instances = {Sensor(1, "Fan", 1, 65, 0)};
-  EXPECT_EQ(TableReport(ReportOf(instances), Colour::Headings),
+  EXPECT_EQ(Written(report::WriteTable, ReportOf(instances), Colour::Headings),
             "\x1b[1mrack7 (orlo)\x1b[0m\n\n\x1b[1mService processor 1\x1b[0m\n\n"
             "  \x1b[1mSensors (VELKSG_SP_NumericSensor)\x1b[0m\n    Fan  1 %\n\n"
             "1 instance, 1 query, 1 service processor\n");

@@ -1,6 +1,8 @@
 // As few queries as bring every class, and their names.
 #pragma once
 
+#include "cim/Catalogue.h"
+
 #include <string>
 #include <vector>
 
@@ -12,13 +14,13 @@ struct NamedQuery {
 };
 
 inline const std::vector<NamedQuery>& WholeCollection() {
+  using cim::ClassNamesOf;
+  using cim::QueryGroup;
   static const std::vector<NamedQuery> queries = {
-      {"network", {"VELKSG_ServProc_IPProtocolEndpoint", "VELKSG_ServProc_IPProtocolEndpoint2"}},
-      {"dial",
-       {"VELKSG_ServProc_DialProtocolEndpoint1", "VELKSG_ServProc_DialProtocolEndpoint2",
-        "VELKSG_ServProc_DialProtocolEndpoint3", "VELKSG_ServProc_DialProtocolEndpoint4"}},
-      {"sensors", {"VELKSG_SP_NumericSensor"}},
-      {"system", {"VELKSG_SP_ComputerSystem"}},
+      {"network", ClassNamesOf(QueryGroup::Network)},
+      {"dial", ClassNamesOf(QueryGroup::Dial)},
+      {"sensors", ClassNamesOf(QueryGroup::Sensors)},
+      {"system", ClassNamesOf(QueryGroup::ComputerSystem)},
   };
   return queries;
 }

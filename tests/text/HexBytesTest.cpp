@@ -30,5 +30,13 @@ TEST(HexBytes, ReadsEveryByteInBothCases) {
   }
 }
 
+TEST(HexBytes, WritesEveryByteAsItIsRead) {
+  for (unsigned byte = 0; byte < 256; ++byte) {
+    std::string pair;
+    AppendHexPair(pair, static_cast<unsigned char>(byte));
+    EXPECT_EQ(pair, (std::string{"0123456789ABCDEF"[byte / 16], "0123456789ABCDEF"[byte % 16]}));
+  }
+}
+
 }  // namespace
 }  // namespace strake::text

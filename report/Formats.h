@@ -1,0 +1,32 @@
+// The table of the report's formats. Help, refusals and the choice of a writer
+// come from it.
+#pragma once
+
+#include "report/Writer.h"
+
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace strake::report {
+
+struct Format {
+  std::string_view name;
+  std::string_view fileEnding;  // with its point
+  std::string_view mediaType;
+  Writer write;
+  bool holdsWarnings;  // of equal keys; without them the command tells them apart from the report
+};
+
+// The first one is the default.
+std::span<const Format> Formats();
+
+// Null when there is none of this name.
+const Format* FindFormat(std::string_view name);
+// The format of the file's ending, in lower case; null when there is none.
+const Format* FindFormatOfFile(std::string_view fileName);
+
+// For people: "table or json".
+std::string FormatNames();
+
+}  // namespace strake::report

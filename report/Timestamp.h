@@ -1,0 +1,12 @@
+// A moment as RFC 3339 writes it, in UTC.
+#pragma once
+
+#include <chrono>
+#include <string>
+
+namespace strake::report {
+
+// "2024-03-18T09:41:27Z". The year is one of 0 to 9999.
+std::string Timestamp(std::chrono::sys_seconds moment);
+
+}  // namespace strake::report

@@ -1,0 +1,70 @@
+// The table of formats.
+#include "report/Formats.h"
+#include "tests/report/Instances.h"
+
+#include <gtest/gtest.h>
+#include <set>
+
+namespace strake::tests {
+namespace {
+
+TEST(Formats, AreTableAndJson) {
+  const struct {
+    std::string name;
+    std::string ending;
+    std::string mediaType;
+  } expected[] = {
+      {"table", ".txt", "text/plain; charset=utf-8"},
+      {"json", ".json", "application/json"},
+  };
+  ASSERT_EQ(report::Formats().size(), std::size(expected));
+  for (std::size_t i = 0; i < std::size(expected); ++i) {
+    const report::Format& format = report::Formats()[i];
+    EXPECT_EQ(format.name, expected[i].name);
+    EXPECT_EQ(format.fileEnding, expected[i].ending);
+    EXPECT_EQ(format.mediaType, expected[i].mediaType);
+  }
+  EXPECT_EQ(report::FormatNames(), "table or json");
+}
+
+TEST(Formats, AreFoundByTheirNamesAndEndingsAndNoOthers) {
+  std::set<std::string_view> names;
+  std::set<std::string_view> endings;
+  for (const report::Format& format : report::Formats()) {
+    EXPECT_TRUE(names.insert(format.name).second) << format.name;
+    EXPECT_TRUE(endings.insert(format.fileEnding).second) << format.fileEnding;
+    EXPECT_EQ(report::FindFormat(format.name), &format);
+    EXPECT_EQ(report::FindFormatOfFile("a/b" + std::string(format.fileEnding)), &format);
+  }
+  for (const char* const unknown : {"", "Table", "xml", "json ", "jso"}) {
+    EXPECT_EQ(report::FindFormat(unknown), nullptr) << unknown;
+  }
+  for (const char* const unknown : {"", "json", "a.jsonl", "a.JSON", "a.json/b", "/dev/null"}) {
+    EXPECT_EQ(report::FindFormatOfFile(unknown), nullptr) << unknown;
+  }
+}
+
+TEST(Formats, TellOfEqualKeysExactlyWhereTheySayThatTheyDo) {
+  const auto report = ReportOf({Sensor(1, "Fan", 1, 65, 0), Sensor(1, "Fan", 2, 65, 0)});
+  for (const report::Format& format : report::Formats()) {
+    EXPECT_EQ(Written(format.write, report).find("have equal keys") != std::string::npos,
+              format.holdsWarnings)
+        << format.name;
+  }
+}
+
+TEST(Formats, EndTheWritingWhenTheSinkThrows) {
+  const auto report = ReportOf({Sensor(1, "Fan", 1, 65, 0)});
+  for (const report::Format& format : report::Formats()) {
+    int calls = 0;
+    const report::Sink full = [&calls](std::string_view /*text*/) {
+      ++calls;
+      throw std::runtime_error("full");
+    };
+    EXPECT_THROW(format.write(report, report::Colour::Never, full), std::runtime_error);
+    EXPECT_EQ(calls, 1) << format.name;
+  }
+}
+
+}  // namespace
+}  // namespace strake::tests
