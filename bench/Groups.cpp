@@ -1,22 +1,21 @@
 #include "bench/Groups.h"
 
+#include "cim/Catalogue.h"
+
 #include <filesystem>
 #include <stdexcept>
 
 namespace strake::bench {
 
 std::span<const Group> Groups() {
+  using cim::ClassNamesOf;
+  using enum cim::QueryGroup;
   static const std::vector<Group> groups = {
-      {"sensors_orlo", "demo-orlo", {"VELKSG_SP_NumericSensor"}},
-      {"sensors_tavit", "demo-tavit", {"VELKSG_SP_NumericSensor"}},
-      {"network",
-       "demo-orlo",
-       {"VELKSG_ServProc_IPProtocolEndpoint", "VELKSG_ServProc_IPProtocolEndpoint2"}},
-      {"dial",
-       "demo-orlo",
-       {"VELKSG_ServProc_DialProtocolEndpoint1", "VELKSG_ServProc_DialProtocolEndpoint2",
-        "VELKSG_ServProc_DialProtocolEndpoint3", "VELKSG_ServProc_DialProtocolEndpoint4"}},
-      {"system", "demo-orlo", {"VELKSG_SP_ComputerSystem"}},
+      {"sensors_orlo", "demo-orlo", ClassNamesOf(Sensors)},
+      {"sensors_tavit", "demo-tavit", ClassNamesOf(Sensors)},
+      {"network", "demo-orlo", ClassNamesOf(Network)},
+      {"dial", "demo-orlo", ClassNamesOf(Dial)},
+      {"system", "demo-orlo", ClassNamesOf(ComputerSystem)},
   };
   return groups;
 }

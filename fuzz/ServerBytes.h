@@ -11,8 +11,8 @@
 //   trouble      what goes wrong, its place in kFaults, in four bits; unless it is
 //                none, a word follows: at which boundary call, counted from 1
 //   queries      their number - 1 in two bits; each: the number of its classes in
-//                four bits, and of each its place in kClassNames, or from 8 to 15
-//                a text
+//                four bits, and of each its place in the catalogue, or from there
+//                to 15 a text
 //   host         machine type, system name, system creation class name: texts
 //   count        of service processors: a wide number
 //   components   their number; each: a command, a wide number modulo 255. Only
@@ -33,14 +33,12 @@
 
 #include "platform/boundary/BoundaryObserver.h"
 #include "platform/server/ServerDescription.h"
-#include "plugin/frame/base/ClassNames.h"
 
 #include <array>
 #include <cstddef>
 #include <cstdint>
 #include <span>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace strake::fuzz {
@@ -76,10 +74,6 @@ inline constexpr std::array kFaults = {
     platform::Fault::OutOfMemory,
     platform::Fault::UntouchedHandle,
     platform::Fault::UntouchedLength,
-};
-inline constexpr std::array<std::string_view, 8> kClassNames = {
-    kSPComputerSystem,      kIPProtocolEndpoint,    kIPProtocolEndpoint2,   kDialProtocolEndpoint1,
-    kDialProtocolEndpoint2, kDialProtocolEndpoint3, kDialProtocolEndpoint4, kNumericSensor,
 };
 
 // No latency, and a clock that stands.

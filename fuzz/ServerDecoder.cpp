@@ -1,3 +1,4 @@
+#include "cim/Catalogue.h"
 #include "fuzz/ByteStream.h"
 #include "fuzz/KnownCommands.h"
 #include "fuzz/ServerBytes.h"
@@ -78,12 +79,13 @@ Trouble ReadTrouble(ByteReader& in) {
 }
 
 std::vector<Query> ReadQueries(ByteReader& in) {
+  const auto classes = cim::SchemaClasses();
   std::vector<Query> queries(1U + in.Byte() % kMostQueries);
   for (Query& query : queries) {
     query.resize(in.Byte() & kMostClasses);
     for (std::string& name : query) {
       const std::size_t place = in.Byte() & 15U;
-      name = place < kClassNames.size() ? kClassNames.at(place) : in.Text();
+      name = place < classes.size() ? std::string(classes[place].name) : in.Text();
     }
   }
   return queries;

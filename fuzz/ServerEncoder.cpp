@@ -1,3 +1,4 @@
+#include "cim/Catalogue.h"
 #include "fuzz/ByteStream.h"
 #include "fuzz/KnownCommands.h"
 #include "fuzz/ServerBytes.h"
@@ -119,13 +120,14 @@ void WriteTrouble(ByteWriter& out, const Trouble& trouble) {
 void WriteQueries(ByteWriter& out, const std::vector<Query>& queries) {
   Limit("queries", queries.size(), 1, kMostQueries);
   out.Byte(queries.size() - 1);
+  const auto classes = cim::SchemaClasses();
   for (const Query& query : queries) {
     Limit("classes of a query", query.size(), 0, kMostClasses);
     out.Byte(query.size());
     for (const std::string& name : query) {
-      const auto* const known = std::ranges::find(kClassNames, name);
-      out.Byte(static_cast<std::size_t>(known - kClassNames.begin()));
-      if (known == kClassNames.end()) out.Text(name);
+      const auto known = std::ranges::find(classes, name, &cim::SchemaClass::name);
+      out.Byte(static_cast<std::size_t>(known - classes.begin()));
+      if (known == classes.end()) out.Text(name);
     }
   }
 }
