@@ -7,6 +7,7 @@
 #include "plugin/config/SharedIdentifiers.h"
 #include "plugin/frame/ModuleEntry.h"
 #include "plugin/frame/base/ClassNames.h"
+#include "tests/support/Places.h"
 #include "tests/support/Scenario.h"
 #include "tests/support/WholeCollection.h"
 
@@ -113,7 +114,7 @@ TEST(Catalogue, HasExactlyThePropertiesAndTypesThatThePlugInSetsOnTheServersOfTh
   PropertyNotes notes;
   int servers = 0;
   for (const auto& entry :
-       std::filesystem::directory_iterator(std::filesystem::path(STRAKE_SOURCE_DIR) / "servers")) {
+       std::filesystem::directory_iterator(std::filesystem::path(SourceFolder()) / "servers")) {
     Collect(platform::ReadServerDescription(entry), notes);
     ++servers;
   }
