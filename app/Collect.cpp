@@ -87,13 +87,27 @@ void RunQueries(platform::HostSession& session, const std::vector<ClassNames>& q
   RunStep("detaching", [&session] { session.Detach(); });
 }
 
+// Writes a report in large pieces: a writer hands over small ones.
+void WriteToStandardOutput(const report::Report& report, const report::Format& format) {
+  constexpr std::size_t kPiece = 65536;
+  const report::Colour colour =
+      os::StandardOutputShowsColour() ? report::Colour::Headings : report::Colour::Never;
+  std::string pending;
+  format.write(report, colour, [&pending](std::string_view text) {
+    pending += text;
+    if (pending.size() >= kPiece) {
+      os::WriteStandardOutput(pending);
+      pending.clear();
+    }
+  });
+  os::WriteStandardOutput(pending);
+}
+
 void WriteReport(const report::Report& report, const CollectOptions& options,
                  os::OutputFile* file) {
   const report::Format& format = *options.format;
   if (file == nullptr) {
-    const report::Colour colour =
-        os::StandardOutputShowsColour() ? report::Colour::Headings : report::Colour::Never;
-    format.write(report, colour, os::WriteStandardOutput);
+    WriteToStandardOutput(report, format);
   } else {
     format.write(report, report::Colour::Never,
                  [file](std::string_view text) { file->Write(text); });

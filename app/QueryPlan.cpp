@@ -5,7 +5,6 @@
 #include <algorithm>
 
 namespace strake::app {
-
 namespace {
 
 // Without those before and behind it.

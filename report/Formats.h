@@ -15,7 +15,9 @@ struct Format {
   std::string_view fileEnding;  // with its point
   std::string_view mediaType;
   Writer write;
-  bool holdsWarnings;  // of equal keys; without them the command tells them apart from the report
+  // Whether the report tells of equal keys; if not, the command does, on
+  // standard error.
+  bool holdsWarnings;
 };
 
 // The first one is the default.
