@@ -1,6 +1,7 @@
 // What the progress writes, and when.
 #include "app/ForwardingObserver.h"
 #include "app/Progress.h"
+#include "plugin/host/TCIMValue.h"
 
 #include <gtest/gtest.h>
 #include <memory>
