@@ -15,8 +15,6 @@ namespace {
 
 constexpr int kHighestLogLevel = 4;
 
-constexpr const char* kStandardOutput = "/dev/stdout";
-
 constexpr const char* kExamples = R"(Examples:
   strake collect                        the demonstration server, as a table
   strake collect --demo demo-tavit      the other demonstration server
@@ -91,29 +89,22 @@ std::string RefuseLogLevel(const std::string& level) {
   return isLevel ? "" : "'" + level + "' is no level, expected 0 to 4";
 }
 
-CLI::Option* AddInputFile(CLI::App& app, const std::string& name, const std::string& text,
-                          std::optional<std::filesystem::path>& file) {
+CLI::Option* AddFile(CLI::App& app, const std::string& name, const std::string& text,
+                     std::optional<std::filesystem::path>& file) {
   return AddValue(app, name, "FILE", text, [&file](const std::string& value) { file = value; })
       ->check(RefuseEmptyName);
 }
 
-void AddOutputFile(CLI::App& app, const std::string& name, const std::string& text,
-                   std::optional<std::filesystem::path>& file) {
-  AddValue(app, name, "FILE", text, [&file](const std::string& value) {
-    file = value == "-" ? kStandardOutput : value;
-  })->check(RefuseEmptyName);
-}
-
 void AddInput(CLI::App& app, CollectOptions& options) {
   CLI::Option* const server =
-      AddInputFile(app, "--server", "The server description (*.server.json)", options.server);
+      AddFile(app, "--server", "The server description (*.server.json)", options.server);
   AddValue(app, "--demo", "NAME",
            "A built-in demonstration server: " + BuiltInServerNames() + "; default: demo-orlo",
            [&options](const std::string& value) { options.demo = value; })
       ->check(RefuseUnknownDemo)
       ->excludes(server);
-  AddInputFile(app, "--plugin", "The plug-in module; default: strake.so near the command",
-               options.plugin);
+  AddFile(app, "--plugin", "The plug-in module; default: strake.so near the command",
+          options.plugin);
 }
 
 void AddQueries(CLI::App& app, CollectOptions& options) {
@@ -137,16 +128,9 @@ void AddOutput(CLI::App& app, CollectOptions& options) {
                std::string(report::Formats().front().name),
            [&options](const std::string& value) { options.format = report::FindFormat(value); })
       ->check(RefuseUnknownFormat);
-  AddValue(app, "--output", "FILE", "Where the report goes; default: standard output",
-           [&options](const std::string& value) {
-             if (value != "-") {
-               options.output = value;
-             }
-           })
-      ->check(RefuseEmptyName);
-  AddOutputFile(app, "--trace", "Where to record what crosses the plug-in's boundary",
-                options.trace);
-  AddOutputFile(app, "--log", "Where log lines go; default: standard error", options.log);
+  AddFile(app, "--output", "Where the report goes; default: standard output", options.output);
+  AddFile(app, "--trace", "Where to record what crosses the plug-in's boundary", options.trace);
+  AddFile(app, "--log", "Where log lines go; default: standard error", options.log);
   AddValue(app, "--log-level", "N",
            "Log lines up to this level, 0 to 4; default: 1, or 4 with --log",
            [&options](const std::string& value) { options.logLevel = value[0] - '0'; })

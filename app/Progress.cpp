@@ -14,12 +14,24 @@ constexpr std::string_view kErase = "\r\x1b[K";
 }  // namespace
 
 Progress::Progress(std::size_t queries, Means means)
-    : fMeans(std::move(means)), fNext(fMeans.now() + kPatience), fQueries(queries) {}
+    : fMeans(std::move(means)), fNext(fMeans.now() + kPatience), fQueries(queries) {
+  Enter();
+}
 
-Progress::~Progress() { Erase(); }
+Progress::~Progress() {
+  Erase();
+  Leave();
+}
+
+void Progress::EndBySignal() noexcept {
+  if (fIsShown) {
+    fMeans.write(kErase);
+  }
+}
 
 void Progress::Erase() {
   if (fIsShown) {
+    const os::SignalHold hold;
     fMeans.write(kErase);
     fIsShown = false;
     fNext = fMeans.now();
@@ -49,6 +61,7 @@ void Progress::OnKestleSend(const platform::KestleSend& /*send*/) { ++fSends; }
 void Progress::Show() {
   const Clock::time_point now = fMeans.now();
   if (now >= fNext) {
+    const os::SignalHold hold;
     fMeans.write(std::string(kErase) + Line());
     fIsShown = true;
     fNext = now + kBetweenLines;

@@ -1,6 +1,7 @@
 // How far a run is, on one line of a terminal that is written over and erased.
 #pragma once
 
+#include "os/Signals.h"
 #include "platform/boundary/BoundaryObserver.h"
 
 #include <chrono>
@@ -12,7 +13,7 @@ namespace strake::app {
 
 // Shows nothing in the first second. It is told of calls, and has no clock of
 // its own: while one call takes its time, the line stays as it is.
-class Progress : public platform::BoundaryObserver {
+class Progress : public platform::BoundaryObserver, private os::Unfinished {
  public:
   using Clock = std::chrono::steady_clock;
   struct Means {
@@ -37,6 +38,8 @@ class Progress : public platform::BoundaryObserver {
   void OnKestleSend(const platform::KestleSend& send) override;
 
  private:
+  // A signal takes the line away, too; what writes is safe in its handler.
+  void EndBySignal() noexcept override;
   void Show();
   [[nodiscard]] std::string Line() const;
 

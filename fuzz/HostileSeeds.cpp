@@ -1,3 +1,4 @@
+#include "cim/Catalogue.h"
 #include "fuzz/KnownCommands.h"
 #include "fuzz/Seeds.h"
 #include "tests/support/WholeCollection.h"
@@ -58,7 +59,7 @@ ServerCase Answering(const ReplySequence& replies) {
 }
 
 ServerCase TavitAnswering(const std::string& machineType, const Reply& reply) {
-  ServerCase result{{}, {{std::string(kNumericSensor)}}, {}};
+  ServerCase result{{}, {cim::ClassNamesOf(cim::QueryGroup::Sensors)}, {}};
   result.server.sp.kind = SpKind::Tavit;
   result.server.host.machineTypeModel = {machineType, false};
   for (const unsigned char code : std::array<unsigned char, 3>{0xA6, 0xA2, 0xA4}) {

@@ -215,9 +215,9 @@ TEST(CommandLine, TakesADashForStandardInputOrOutput) {
   const CollectOptions options =
       Collect({"--server", "-", "--output", "-", "--trace", "-", "--log", "-"});
   EXPECT_EQ(options.server, "-");
-  EXPECT_FALSE(options.output);
-  EXPECT_EQ(options.trace, "/dev/stdout");
-  EXPECT_EQ(options.log, "/dev/stdout");
+  EXPECT_EQ(options.output, "-");
+  EXPECT_EQ(options.trace, "-");
+  EXPECT_EQ(options.log, "-");
   EXPECT_EQ(options.logLevel, 4);
 }
 

@@ -24,7 +24,7 @@ class CommandProgressTest : public testing::Test {
   [[nodiscard]] std::vector<std::string> Words(int latency) const {
     return {"collect", "--server", fFolder.Write("s", Server(latency)),
             "--query", "",         "--query",
-            "",        "--format", "json"};
+            "",        "--format", "table"};
   }
 
   TemporaryFolder fFolder;

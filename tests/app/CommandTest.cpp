@@ -262,7 +262,7 @@ TEST_F(CommandTest, WritesToStandardOutputForADash) {
   const Outcome log = Collect({words[0], words[1], words[2], fFolder / "report", "--log", "-"});
   EXPECT_EQ(log.out.substr(0, 4), "[3] ");
   EXPECT_EQ(Collect({"--trace", "-"}),
-            (Outcome{2, "", "strake: the report and --trace: both are the file /dev/stdout\n"}));
+            (Outcome{2, "", "strake: the report and --trace: both are the file -\n"}));
 }
 
 TEST_F(CommandTest, WarnsOnceOfAClassThatTheSchemaLacksAndHandsItOn) {

@@ -1,6 +1,7 @@
 // What the progress writes, and when.
 #include "app/ForwardingObserver.h"
 #include "app/Progress.h"
+#include "os/Signals.h"
 #include "plugin/host/TCIMValue.h"
 
 #include <gtest/gtest.h>
@@ -82,6 +83,14 @@ TEST_F(ProgressTest, IsErasedAtTheEnd) {
   EXPECT_NE(Call(), "");
   fWritten.clear();
   fProgress.reset();
+  EXPECT_EQ(fWritten, kErase);
+}
+
+TEST_F(ProgressTest, IsErasedByASignalThatEndsTheRun) {
+  After(1000);
+  EXPECT_NE(Call(), "");
+  fWritten.clear();
+  os::Unfinished::EndAll();
   EXPECT_EQ(fWritten, kErase);
 }
 

@@ -99,7 +99,9 @@ void ExpectEqual(std::span<const StoredInstance> actual,
                  const std::vector<StoredInstance>& expected, const char* what) {
   ASSERT_EQ(actual.size(), expected.size()) << what;
   for (std::size_t i = 0; i < expected.size(); ++i) {
-    EXPECT_EQ(actual[i], expected[i]) << what << ", instance " << i;
+    // Numbers go on over what the trouble left behind.
+    EXPECT_EQ(actual[i].schema, expected[i].schema) << what << ", instance " << i;
+    EXPECT_EQ(actual[i].properties, expected[i].properties) << what << ", instance " << i;
   }
 }
 
