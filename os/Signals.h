@@ -18,7 +18,7 @@ class Unfinished {
 
  protected:
   Unfinished() = default;
-  virtual ~Unfinished() = default;
+  ~Unfinished() = default;
   // From here on a signal ends it. The last constructor to run calls it, and the
   // first destructor calls Leave.
   void Enter() noexcept;
