@@ -41,8 +41,6 @@ TEST(SharedIdentifiers, BeginAtTheirFirstInstances) {
   ExpectNetworkIdentifiers("1", "1");
 }
 
-TEST(SharedIdentifiers, AreOneForTheWholeProcess) { EXPECT_EQ(&Identifiers(), &Identifiers()); }
-
 TEST(SharedIdentifiers, AddressingAnInstanceOverwritesTheFourthByteAndNoOther) {
   for (int instance = 0; instance <= 255; ++instance) {
     SharedIdentifiers identifiers;
