@@ -35,7 +35,7 @@ class OutputFile::State final : private Unfinished {
   State(const std::filesystem::path& name, Privacy privacy, OnSignal onSignal);
   State(const State&) = delete;
   State& operator=(const State&) = delete;
-  ~State();
+  ~State() override;
 
   void Write(std::string_view bytes);
   void Complete();

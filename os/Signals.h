@@ -8,6 +8,7 @@ class Unfinished {
  public:
   Unfinished(const Unfinished&) = delete;
   Unfinished& operator=(const Unfinished&) = delete;
+  virtual ~Unfinished() = default;
 
   // Runs in the middle of anything but a SignalHold, so it makes only calls that
   // are safe in a signal handler.
@@ -18,7 +19,6 @@ class Unfinished {
 
  protected:
   Unfinished() = default;
-  ~Unfinished() = default;
   // From here on a signal ends it. The last constructor to run calls it, and the
   // first destructor calls Leave.
   void Enter() noexcept;

@@ -24,7 +24,7 @@ class Noted final : public os::Unfinished {
   Noted(int out, char name) : fOut(out), fName(name) { Enter(); }
   Noted(const Noted&) = delete;
   Noted& operator=(const Noted&) = delete;
-  ~Noted() { Leave(); }
+  ~Noted() override { Leave(); }
   void EndBySignal() noexcept override { EXPECT_EQ(::write(fOut, &fName, 1), 1); }
 
  private:
