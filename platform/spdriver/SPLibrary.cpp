@@ -66,7 +66,7 @@ SPLibrary* SPLibrary::GetSplibraryInstance(int /*reserved*/) {
 }
 
 // Members by the platform's declaration, without any state in the object.
-// NOLINTBEGIN(readability-convert-member-functions-to-static)
+// NOLINTBEGIN(readability-convert-member-functions-to-static,readability-non-const-parameter)
 
 bool SPLibrary::isDotcommand() {
   return Ask("isDotcommand", [](const SpDescription& sp) {
@@ -198,6 +198,6 @@ int SPLibrary::getComponentdotCmdList(unsigned char* identifier, int identifierL
   return count;
 }
 
-// NOLINTEND(readability-convert-member-functions-to-static)
+// NOLINTEND(readability-convert-member-functions-to-static,readability-non-const-parameter)
 
 }  // namespace NVELKZEV20
