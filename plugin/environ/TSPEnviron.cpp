@@ -20,6 +20,7 @@ TSPEnviron::~TSPEnviron() noexcept(false) {
     LogLevel4("TSPEnviron destructor entered.");
   } catch (...) {
     if (std::uncaught_exceptions() == 0) {
+      // cppcheck-suppress exceptThrowInDestructor ; declared so, and nothing unwinds
       throw;
     }
   }

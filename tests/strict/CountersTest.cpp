@@ -136,7 +136,7 @@ constexpr GroupCase kGroups[] = {
      "Failed to get componentcmdlist for dialinsettings."},
 };
 
-INSTANTIATE_TEST_SUITE_P(, DialGroup, testing::ValuesIn(kGroups),
+INSTANTIATE_TEST_SUITE_P(Of, DialGroup, testing::ValuesIn(kGroups),
                          [](const testing::TestParamInfo<GroupCase>& each) {
                            return std::string(each.param.name);
                          });

@@ -168,7 +168,7 @@ constexpr GuardedCase kGuarded[] = {
     {"LastLoginSet", "Dialin", Call::DateTimeSet, "", 1, "", 0, "LastLogin", "1970-1-2 12:0:0.0 0"},
 };
 
-INSTANTIATE_TEST_SUITE_P(, GuardedCall, testing::ValuesIn(kGuarded),
+INSTANTIATE_TEST_SUITE_P(Of, GuardedCall, testing::ValuesIn(kGuarded),
                          [](const testing::TestParamInfo<GuardedCase>& each) {
                            return std::string(each.param.name);
                          });

@@ -9,7 +9,7 @@ namespace {
 
 using NVELKZEV20::TCIMSchemaHelper;
 
-INSTANTIATE_TEST_SUITE_P(, EveryClass, testing::ValuesIn(AllClasses()), NameOf);
+INSTANTIATE_TEST_SUITE_P(Of, EveryClass, testing::ValuesIn(AllClasses()), NameOf);
 
 TEST_P(EveryClass, LooksItsClassUpInTheQueryContext) {
   Query();

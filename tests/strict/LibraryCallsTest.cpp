@@ -88,7 +88,7 @@ const ServerCase kServers[] = {
      kComplete},
 };
 
-INSTANTIATE_TEST_SUITE_P(, Server, testing::ValuesIn(kServers),
+INSTANTIATE_TEST_SUITE_P(Of, Server, testing::ValuesIn(kServers),
                          [](const testing::TestParamInfo<ServerCase>& each) {
                            return std::string(each.param.name);
                          });

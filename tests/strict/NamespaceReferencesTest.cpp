@@ -80,7 +80,7 @@ const ReferenceCase kCases[] = {
      Line("TStrakePluginCallbacks::dialcommands completed.")},
 };
 
-INSTANTIATE_TEST_SUITE_P(, NamespaceReferences, testing::ValuesIn(kCases),
+INSTANTIATE_TEST_SUITE_P(Of, NamespaceReferences, testing::ValuesIn(kCases),
                          [](const testing::TestParamInfo<ReferenceCase>& each) {
                            return std::string(each.param.name);
                          });

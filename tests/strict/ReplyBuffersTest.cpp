@@ -75,7 +75,7 @@ constexpr BufferCase kCases[] = {
     {"KestleTemperatures", "TavitSensor", "164", 255, true},
 };
 
-INSTANTIATE_TEST_SUITE_P(, ReplyBuffer, testing::ValuesIn(kCases),
+INSTANTIATE_TEST_SUITE_P(Of, ReplyBuffer, testing::ValuesIn(kCases),
                          [](const testing::TestParamInfo<BufferCase>& each) {
                            return std::string(each.param.name);
                          });
@@ -177,7 +177,7 @@ constexpr NoDataCase kNoData[] = {
     {"TavitSensor", "TavitSensor", "No data retrieved for Kestle ", 3, 0},
 };
 
-INSTANTIATE_TEST_SUITE_P(, NoData, testing::ValuesIn(kNoData),
+INSTANTIATE_TEST_SUITE_P(Of, NoData, testing::ValuesIn(kNoData),
                          [](const testing::TestParamInfo<NoDataCase>& each) {
                            return std::string(each.param.name);
                          });
