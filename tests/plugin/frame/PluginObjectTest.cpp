@@ -79,7 +79,7 @@ TEST_F(PluginObject, DestroyWithANullObjectDoesNothing) {
   NVELKZEV20::IPluginCallbacks* const plugin = platform::RegisteredPlugin();
   using Slot = void (*)(NVELKZEV20::IPluginCallbacks*);
   Slot const* slots = nullptr;
-  std::memcpy(&slots, plugin, sizeof(slots));
+  std::memcpy(&slots, static_cast<const void*>(plugin), sizeof(slots));
   const Slot destroy = slots[6];  // the destructor, slot 0, has two entries
   destroy(nullptr);
   EXPECT_EQ(plugin->GetDisplayName(), "SP Configuration");
