@@ -74,7 +74,7 @@ class GuardedCall : public testing::TestWithParam<GuardedCase> {
   Thrown Query(Thrown thrown) {
     host.spCount = 1;
     int calls = 0;
-    host.onCall = [this, thrown, calls](const Event& event) mutable {
+    host.onCall = [thrown, calls](const Event& event) mutable {
       const GuardedCase& guarded = GetParam();
       if (event.call == guarded.call && event.text.starts_with(guarded.text) &&
           ++calls == guarded.nth) {
