@@ -174,6 +174,10 @@ void Command::Become(int out, int err) const {
   }
   ::umask(fMask);
   ArrangeDescriptors(out, err);
+  // A shell's background job is started with some of them ignored.
+  for (const int signal : {SIGHUP, SIGINT, SIGTERM, SIGPIPE}) {
+    (void)std::signal(signal, SIG_DFL);
+  }
   for (const int signal : fIgnored) {
     (void)std::signal(signal, SIG_IGN);
   }

@@ -1,5 +1,6 @@
 #include "tests/support/Child.h"
 
+#include <csignal>
 #include <exception>
 #include <ostream>
 #include <stdexcept>
@@ -10,6 +11,13 @@ namespace strake::tests {
 namespace {
 
 constexpr int kThrew = 99;
+
+// A shell's background job is started with some of them ignored.
+void ForgetIgnoredSignals() {
+  for (const int signal : {SIGHUP, SIGINT, SIGTERM, SIGPIPE}) {
+    (void)std::signal(signal, SIG_DFL);
+  }
+}
 
 [[noreturn]] void Work(int out, const std::function<std::string()>& work) {
   std::string text;
@@ -39,6 +47,7 @@ ChildEnd InChild(const std::function<std::string()>& work) {
   const pid_t process = ::fork();
   if (process == 0) {
     ::close(ends[0]);
+    ForgetIgnoredSignals();
     Work(ends[1], work);
   }
   ::close(ends[1]);
