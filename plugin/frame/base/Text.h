@@ -30,6 +30,18 @@ void AppendPart(std::string& text, Number number) {
   AppendNumber(text, +number, 10);
 }
 
+// Bytes are most of the numbers in a trail.
+inline void AppendPart(std::string& text, unsigned char byte) {
+  const auto digit = [](int value) { return static_cast<char>('0' + value % 10); };
+  if (byte >= 100) {
+    text.push_back(digit(byte / 100));
+  }
+  if (byte >= 10) {
+    text.push_back(digit(byte / 10));
+  }
+  text.push_back(digit(byte));
+}
+
 // An address, in the standard stream's pointer format.
 struct AddressText {
   const void* address;
