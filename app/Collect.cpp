@@ -22,6 +22,7 @@
 #include <exception>
 #include <memory>
 #include <set>
+#include <utility>
 
 namespace strake::app {
 namespace {
@@ -93,7 +94,7 @@ void WriteToStandardOutput(const report::Report& report, const report::Format& f
   const report::Colour colour =
       os::StandardOutputShowsColour() ? report::Colour::Headings : report::Colour::Never;
   std::string pending;
-  format.write(report, colour, [&pending](std::string_view text) {
+  format.write(report, {.colour = colour}, [&pending](std::string_view text) {
     pending += text;
     if (pending.size() >= kPiece) {
       os::WriteStandardOutput(pending);
@@ -103,20 +104,26 @@ void WriteToStandardOutput(const report::Report& report, const report::Format& f
   os::WriteStandardOutput(pending);
 }
 
+// Those that somebody has to look at.
+void TellFindings(const report::Report& report) {
+  for (const report::Finding& finding : report.Findings()) {
+    if (finding.severity != report::Severity::Info) {
+      TellWarning(finding.text);
+    }
+  }
+}
+
 void WriteReport(const report::Report& report, const CollectOptions& options,
                  os::OutputFile* file) {
   const report::Format& format = *options.format;
   if (file == nullptr) {
     WriteToStandardOutput(report, format);
   } else {
-    format.write(report, report::Colour::Never,
-                 [file](std::string_view text) { file->Write(text); });
+    format.write(report, {}, [file](std::string_view text) { file->Write(text); });
     file->Complete();
   }
-  if (!format.holdsWarnings && !options.quiet) {
-    for (const cim::EqualKeys& equal : report.EqualKeys()) {
-      TellWarning(report::EqualKeysWarning(equal));
-    }
+  if (format.findings == report::FindingsGo::ToStandardError && !options.quiet) {
+    TellFindings(report);
   }
 }
 
@@ -156,13 +163,14 @@ void Collect(const CollectOptions& options) {
     progress->Erase();
   }
 
+  report::Collected collected;
+  collected.facts = {.server = server.facts,
+                     .version = STRAKE_VERSION,
+                     .collectedAt = begin,
+                     .queries = queries.size()};
+  collected.instances = session.Namespace()->TakeCommitted();
   const report::Report report(
-      {.server = server.facts,
-       .version = STRAKE_VERSION,
-       .collectedAt = begin,
-       .queries = queries.size()},
-      session.Namespace()->TakeCommitted(),
-      options.showSecrets ? report::Secrets::Shown : report::Secrets::Masked);
+      std::move(collected), options.showSecrets ? report::Secrets::Shown : report::Secrets::Masked);
   WriteReport(report, options, output.get());
 }
 

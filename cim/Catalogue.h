@@ -36,6 +36,7 @@ struct SchemaProperty {
 
 struct SchemaClass {
   std::string_view name;
+  std::string_view shortName;  // for the command line, in lower case
   std::string_view title;
   std::string_view description;
   QueryGroup group = QueryGroup::Network;
@@ -54,6 +55,8 @@ std::vector<std::string> ClassNamesOf(QueryGroup group);
 
 // Null when there is none of exactly this name.
 const SchemaClass* FindSchemaClass(std::string_view name);
+// By its name or its short name.
+const SchemaClass* FindClassByAnyName(std::string_view name);
 const SchemaProperty* FindSchemaProperty(const SchemaClass& schemaClass, std::string_view name);
 
 // "string", "sint32", "uint16", "uint8", "datetime".

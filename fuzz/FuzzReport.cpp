@@ -107,7 +107,7 @@ void MarkSecrets(ReportCase& reportCase) {
 
 std::string Written(report::Writer writer, const report::Report& report, report::Colour colour) {
   std::string out;
-  writer(report, colour, [&out](std::string_view text) { out += text; });
+  writer(report, {.colour = colour}, [&out](std::string_view text) { out += text; });
   return out;
 }
 
@@ -117,11 +117,11 @@ int FuzzReport(const std::uint8_t* data, std::size_t size) {
   ReportCase reportCase = DecodeReport({data, size});
   MarkSecrets(reportCase);
   const report::Report report(
-      {.server = {reportCase.serverName, reportCase.serverDescription, "orlo"},
-       .version = "1.0.0",
-       .collectedAt = {},
-       .queries = 1},
-      reportCase.instances,
+      {.facts = {.server = {reportCase.serverName, reportCase.serverDescription, "orlo"},
+                 .version = "1.0.0",
+                 .collectedAt = {},
+                 .queries = 1},
+       .instances = reportCase.instances},
       reportCase.showSecrets ? report::Secrets::Shown : report::Secrets::Masked);
 
   const std::string json = Written(report::WriteJson, report, report::Colour::Never);

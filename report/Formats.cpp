@@ -9,8 +9,9 @@ namespace strake::report {
 namespace {
 
 constexpr Format kFormats[] = {
-    {"table", ".txt", "text/plain; charset=utf-8", WriteTable, true},
-    {"json", ".json", "application/json", WriteJson, false},
+    {"table", ".txt", "text/plain; charset=utf-8", WriteTable, FindingsGo::InReport, Classes::Any,
+     Laid::OutForPeople},
+    {"json", ".json", "application/json", WriteJson, FindingsGo::InReport},
 };
 
 }  // namespace

@@ -10,14 +10,23 @@
 
 namespace strake::report {
 
+// Where a reader of the report sees the findings.
+enum class FindingsGo { InReport, ToStandardError };
+
+// How many classes a report of the format can hold.
+enum class Classes { Any, ExactlyOne };
+
+// Whether it has a layout to choose.
+enum class Laid { AsItIs, OutForPeople };
+
 struct Format {
   std::string_view name;
   std::string_view fileEnding;  // with its point
   std::string_view mediaType;
   Writer write;
-  // Whether the report tells of equal keys; if not, the command does, on
-  // standard error.
-  bool holdsWarnings;
+  FindingsGo findings;
+  Classes classes = Classes::Any;
+  Laid laid = Laid::AsItIs;
 };
 
 // The first one is the default.

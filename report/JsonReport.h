@@ -11,6 +11,6 @@ namespace strake::report {
 // a number, text a string (bytes that are no UTF-8 stand as \xNN), a date-time
 // its 25-character text. Controls and characters that turn the writing
 // direction stand as \uXXXX.
-void WriteJson(const Report& report, Colour colour, const Sink& sink);
+void WriteJson(const Report& report, const Layout& layout, const Sink& sink);
 
 }  // namespace strake::report

@@ -1,5 +1,6 @@
 #include "report/Reading.h"
 
+#include <algorithm>
 #include <array>
 #include <string_view>
 
@@ -13,14 +14,23 @@ constexpr std::int32_t kLargestModifier = 18;
 struct Unit {
   std::uint16_t code;
   std::string_view text;
+  SensorKind kind;
 };
 
-constexpr std::array<Unit, 4> kUnits{{
-    {2, "°C"},
-    {5, "V"},
-    {19, "RPM"},
-    {65, "%"},
+constexpr std::array<Unit, 6> kUnits{{
+    {2, "°C", SensorKind::Temperature},
+    {5, "V", SensorKind::Voltage},
+    {6, "A", SensorKind::Current},
+    {7, "W", SensorKind::Power},
+    {19, "RPM", SensorKind::Fan},
+    {65, "%", SensorKind::Fan},
 }};
+
+// Null when it is none of the table's.
+const Unit* FindUnit(std::uint16_t baseUnits) {
+  const auto* const found = std::ranges::find(kUnits, baseUnits, &Unit::code);
+  return found == kUnits.end() ? nullptr : found;
+}
 
 }  // namespace
 
@@ -48,12 +58,13 @@ std::string ScaledReading(std::int32_t reading, std::int32_t modifier) {
 }
 
 std::string UnitText(std::uint16_t baseUnits) {
-  for (const Unit& unit : kUnits) {
-    if (unit.code == baseUnits) {
-      return std::string(unit.text);
-    }
-  }
-  return std::string("unit ").append(std::to_string(baseUnits));
+  const Unit* const unit = FindUnit(baseUnits);
+  return unit == nullptr ? std::to_string(baseUnits) : std::string(unit->text);
+}
+
+SensorKind KindOfUnit(std::uint16_t baseUnits) {
+  const Unit* const unit = FindUnit(baseUnits);
+  return unit == nullptr ? SensorKind::Other : unit->kind;
 }
 
 }  // namespace strake::report

@@ -3,9 +3,13 @@
 
 #include "cim/EqualKeys.h"
 #include "cim/StoredInstance.h"
+#include "report/Finding.h"
+#include "report/Limits.h"
+#include "report/Sensor.h"
 
 #include <chrono>
 #include <cstddef>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -24,6 +28,27 @@ struct CollectionFacts {
   std::string version;  // of Strake: "1.0.0"
   std::chrono::sys_seconds collectedAt;
   std::size_t queries = 0;
+  // Those that were asked for, in the catalogue's order.
+  std::vector<const cim::SchemaClass*> classes = {};
+  // What the host's clock said at collectedAt.
+  std::chrono::sys_seconds hostTime = collectedAt;
+};
+
+// A service processor that was found.
+struct Processor {
+  int number = 0;  // from 1
+  bool answered = false;
+
+  friend bool operator==(const Processor&, const Processor&) = default;
+};
+
+// What a collection brought.
+struct Collected {
+  CollectionFacts facts;
+  std::vector<cim::StoredInstance> instances = {};  // in commit order
+  std::vector<Processor> processors = {};           // by number
+  std::vector<SilentSensor> silentSensors = {};     // in the order in which they were asked for
+  std::vector<Finding> findings = {};
 };
 
 enum class Secrets { Masked, Shown };
@@ -33,23 +58,39 @@ inline constexpr std::string_view kSecretMask = "********";
 
 // Holds no secret, unless it was made to show them: passwords, PINs and
 // community names are masked here, once for all writers. An empty one stays
-// empty.
+// empty. What limits and equal keys tell is added to the findings.
 class Report {
  public:
-  Report(CollectionFacts facts, std::vector<cim::StoredInstance> instances, Secrets secrets);
+  Report(Collected collected, Secrets secrets, const std::optional<Limits>& limits = std::nullopt);
+  // Sensors point into the instances.
+  Report(const Report&) = delete;
+  Report& operator=(const Report&) = delete;
+  Report(Report&&) = default;
+  Report& operator=(Report&&) = default;
+  ~Report() = default;
 
-  [[nodiscard]] const CollectionFacts& Facts() const { return fFacts; }
+  [[nodiscard]] const CollectionFacts& Facts() const { return fCollected.facts; }
   // In commit order.
-  [[nodiscard]] std::span<const cim::StoredInstance> Instances() const { return fInstances; }
-  [[nodiscard]] const std::vector<cim::EqualKeys>& EqualKeys() const { return fEqualKeys; }
+  [[nodiscard]] std::span<const cim::StoredInstance> Instances() const {
+    return fCollected.instances;
+  }
+  [[nodiscard]] std::span<const Processor> Processors() const { return fCollected.processors; }
+  // Those of the instances, in their order, and behind them those that did not
+  // answer.
+  [[nodiscard]] std::span<const Sensor> Sensors() const { return fSensors; }
+  // Null when the instance is no sensor. It is one of this report's.
+  [[nodiscard]] const Sensor* FindSensor(const cim::StoredInstance& instance) const;
+  // The gravest first.
+  [[nodiscard]] std::span<const Finding> Findings() const { return fCollected.findings; }
+  // Whether limits were given, so that sensors have states.
+  [[nodiscard]] bool HasStates() const { return fHasStates; }
+  [[nodiscard]] Secrets SecretsAre() const { return fSecrets; }
 
  private:
-  CollectionFacts fFacts;
-  std::vector<cim::StoredInstance> fInstances;
-  std::vector<cim::EqualKeys> fEqualKeys;
+  Collected fCollected;
+  std::vector<Sensor> fSensors;
+  bool fHasStates;
+  Secrets fSecrets;
 };
-
-// "2 instances of CLASS have equal keys: NAME=VALUE, ...", on one line.
-std::string EqualKeysWarning(const cim::EqualKeys& equal);
 
 }  // namespace strake::report

@@ -1,7 +1,6 @@
 #include "report/TableReport.h"
 
 #include "report/InstanceText.h"
-#include "report/SensorText.h"
 #include "text/TextEscape.h"
 #include "text/Utf8.h"
 
@@ -45,8 +44,8 @@ std::vector<Place> Arrange(std::span<const cim::StoredInstance> instances) {
 
 class TableWriter {
  public:
-  TableWriter(const Report& report, Colour colour, const Sink& sink)
-      : fReport(&report), fColour(colour), fSink(&sink) {}
+  TableWriter(const Report& report, const Layout& layout, const Sink& sink)
+      : fReport(&report), fLayout(layout), fSink(&sink) {}
 
   void Write() {
     WriteServer();
@@ -73,7 +72,7 @@ class TableWriter {
 
   void WriteHeading(std::string_view indent, const std::string& text) {
     fOut += indent;
-    fOut += fColour == Colour::Headings ? "\x1b[1m" + text + "\x1b[0m" : text;
+    fOut += fLayout.colour == Colour::Headings ? "\x1b[1m" + text + "\x1b[0m" : text;
     fOut += '\n';
   }
 
@@ -133,16 +132,23 @@ class TableWriter {
   void WriteSensors(std::span<const Place> sensors) {
     fOut += '\n';
     WriteHeading(kTitleIndent, InstanceTitle(*sensors.front().instance));
-    std::vector<SensorText> rows;
+    struct SensorRow {
+      std::string name;
+      std::string reading;
+      std::string unit;
+    };
+    std::vector<SensorRow> rows;
     rows.reserve(sensors.size());
     std::size_t nameWidth = 0;
     std::size_t readingWidth = 0;
     for (const Place& place : sensors) {
-      rows.push_back(TextOfSensor(*place.instance));
+      const Sensor& sensor = *fReport->FindSensor(*place.instance);
+      rows.push_back(
+          {text::EscapeForPeople(sensor.name), ReadingForPeople(sensor), UnitForPeople(sensor)});
       nameWidth = std::max(nameWidth, text::CountCodePoints(rows.back().name));
       readingWidth = std::max(readingWidth, text::CountCodePoints(rows.back().reading));
     }
-    for (const SensorText& row : rows) {
+    for (const SensorRow& row : rows) {
       fOut += kRowIndent;
       fOut += row.name;
       Pad(nameWidth - text::CountCodePoints(row.name));
@@ -162,8 +168,8 @@ class TableWriter {
     fOut += Counted(fReport->Instances().size(), "instance", "instances") + ", " +
             Counted(fReport->Facts().queries, "query", "queries") + ", " +
             Counted(fServiceProcessors, "service processor", "service processors") + "\n";
-    for (const cim::EqualKeys& equal : fReport->EqualKeys()) {
-      fOut += "Warning: " + EqualKeysWarning(equal) + "\n";
+    for (const Finding& finding : fReport->Findings()) {
+      fOut += std::string(SeverityName(finding.severity)) + ": " + finding.text + "\n";
     }
   }
 
@@ -175,7 +181,7 @@ class TableWriter {
   void Pad(std::size_t count) { fOut.append(count, ' '); }
 
   const Report* fReport;
-  Colour fColour;
+  Layout fLayout;
   const Sink* fSink;
   std::size_t fServiceProcessors = 0;
   std::string fOut;
@@ -183,8 +189,8 @@ class TableWriter {
 
 }  // namespace
 
-void WriteTable(const Report& report, Colour colour, const Sink& sink) {
-  TableWriter(report, colour, sink).Write();
+void WriteTable(const Report& report, const Layout& layout, const Sink& sink) {
+  TableWriter(report, layout, sink).Write();
 }
 
 }  // namespace strake::report

@@ -7,6 +7,6 @@ namespace strake::report {
 
 // Instances grouped by service processor and class: a sensor is a row, any
 // other instance a block of two columns; a closing line counts.
-void WriteTable(const Report& report, Colour colour, const Sink& sink);
+void WriteTable(const Report& report, const Layout& layout, const Sink& sink);
 
 }  // namespace strake::report

@@ -3,6 +3,7 @@
 
 #include "report/Report.h"
 
+#include <cstddef>
 #include <functional>
 #include <string_view>
 
@@ -10,10 +11,20 @@ namespace strake::report {
 
 enum class Colour { Never, Headings };
 
+// How sensors of one kind follow each other.
+enum class SensorOrder { AsCollected, ByName, ByReading, ByState };
+
+// How a format for people is laid out; the others leave it alone.
+struct Layout {
+  Colour colour = Colour::Never;
+  std::size_t columns = 80;  // of the terminal
+  SensorOrder order = SensorOrder::AsCollected;
+  bool header = true;
+};
+
 // Takes a report's text piece by piece; what it throws ends the writing.
 using Sink = std::function<void(std::string_view text)>;
 
-// A format that knows no colour leaves it alone.
-using Writer = void (*)(const Report& report, Colour colour, const Sink& sink);
+using Writer = void (*)(const Report& report, const Layout& layout, const Sink& sink);
 
 }  // namespace strake::report

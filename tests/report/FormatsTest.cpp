@@ -48,7 +48,7 @@ TEST(Formats, TellOfEqualKeysExactlyWhereTheySayThatTheyDo) {
   const auto report = ReportOf({Sensor(1, "Fan", 1, 65, 0), Sensor(1, "Fan", 2, 65, 0)});
   for (const report::Format& format : report::Formats()) {
     EXPECT_EQ(Written(format.write, report).find("have equal keys") != std::string::npos,
-              format.holdsWarnings)
+              format.findings == report::FindingsGo::InReport)
         << format.name;
   }
 }
@@ -61,7 +61,7 @@ TEST(Formats, EndTheWritingWhenTheSinkThrows) {
       ++calls;
       throw std::runtime_error("full");
     };
-    EXPECT_THROW(format.write(report, report::Colour::Never, full), std::runtime_error);
+    EXPECT_THROW(format.write(report, {}, full), std::runtime_error);
     EXPECT_EQ(calls, 1) << format.name;
   }
 }

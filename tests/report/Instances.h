@@ -57,13 +57,13 @@ inline report::CollectionFacts SomeFacts() {
 inline report::Report ReportOf(const std::vector<cim::StoredInstance>& instances,
                                const report::CollectionFacts& facts = SomeFacts(),
                                report::Secrets secrets = report::Secrets::Masked) {
-  return {facts, instances, secrets};
+  return report::Report({.facts = facts, .instances = instances}, secrets);
 }
 
 inline std::string Written(report::Writer writer, const report::Report& report,
-                           report::Colour colour = report::Colour::Never) {
+                           const report::Layout& layout = {}) {
   std::string out;
-  writer(report, colour, [&out](std::string_view text) { out += text; });
+  writer(report, layout, [&out](std::string_view text) { out += text; });
   return out;
 }
 

@@ -1,6 +1,6 @@
 // Instances of which not everything is there, or not as the schema has it.
 #include "report/InstanceText.h"
-#include "report/SensorText.h"
+#include "report/Sensor.h"
 #include "tests/report/Instances.h"
 
 #include <gtest/gtest.h>
@@ -19,7 +19,8 @@ TEST(OddInstances, HaveNoSourceNodeWhenItIsOfAnotherType) {
 
 TEST(OddInstances, ReadAsTheyAreWithoutAModifier) {
   const auto text = [](const Properties& properties) {
-    return report::TextOfSensor(Instance("VELKSG_SP_NumericSensor", properties));
+    const cim::StoredInstance instance = Instance("VELKSG_SP_NumericSensor", properties);
+    return report::SensorOf(instance);
   };
   const Properties bare = {{"SensorDescription", "x"}, {"CurrentReading", -503}};
   EXPECT_EQ(text(bare).reading, "-503");

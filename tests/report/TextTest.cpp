@@ -51,8 +51,10 @@ TEST(Reading, NamesTheUnitsOfServiceProcessorsAndNumbersTheOthers) {
   EXPECT_EQ(report::UnitText(5), "V");
   EXPECT_EQ(report::UnitText(19), "RPM");
   EXPECT_EQ(report::UnitText(65), "%");
-  EXPECT_EQ(report::UnitText(0), "unit 0");
-  EXPECT_EQ(report::UnitText(65535), "unit 65535");
+  EXPECT_EQ(report::UnitText(6), "A");
+  EXPECT_EQ(report::UnitText(7), "W");
+  EXPECT_EQ(report::UnitText(0), "0");
+  EXPECT_EQ(report::UnitText(65535), "65535");
 }
 
 TEST(DateTimeText, IsWrittenAsAPersonWritesIt) {
