@@ -2,11 +2,14 @@
 
 #include "app/Errors.h"
 #include "app/ForwardingObserver.h"
+#include "app/LimitsFile.h"
 #include "app/Messages.h"
 #include "app/ModulePath.h"
 #include "app/NearestName.h"
 #include "app/Progress.h"
 #include "app/QueryPlan.h"
+#include "app/ReportOutput.h"
+#include "app/RunQueries.h"
 #include "app/Server.h"
 #include "app/SharedFiles.h"
 #include "app/Trail.h"
@@ -16,27 +19,16 @@
 #include "os/Terminal.h"
 #include "platform/session/HostSession.h"
 #include "platform/session/PluginModule.h"
-#include "report/Formats.h"
+#include "report/Report.h"
 
 #include <chrono>
-#include <exception>
 #include <memory>
+#include <optional>
 #include <set>
 #include <utility>
 
 namespace strake::app {
 namespace {
-
-std::vector<ClassNames> QueriesOf(const CollectOptions& options) {
-  if (options.queries.empty()) {
-    return PlanQueries(options.classes);
-  }
-  std::vector<ClassNames> queries;
-  for (const std::string& list : options.queries) {
-    queries.push_back(SplitClassList(list));
-  }
-  return queries;
-}
 
 void WarnOfUnknownClasses(const std::vector<ClassNames>& queries) {
   std::vector<std::string_view> known;
@@ -63,74 +55,19 @@ std::unique_ptr<Progress> MakeProgress(const CollectOptions& options, std::size_
                                     Progress::Means{Progress::Clock::now, os::WriteStandardError});
 }
 
-// Runs a step in the plug-in. Its exceptions are turned into the command's own
-// here, while the module is loaded: their types can be the module's.
-template <typename Step>
-void RunStep(const std::string& name, const Step& step) {
-  try {
-    step();
-  } catch (const platform::SessionError& error) {
-    throw RunError(error.what());
-  } catch (const std::exception& error) {
-    throw RunError(name + " ended with an exception: " + error.what());
-  } catch (...) {
-    throw RunError(name + " ended with an exception that does not say what it is");
-  }
-}
-
-void RunQueries(platform::HostSession& session, const std::vector<ClassNames>& queries) {
-  RunStep("Initialize", [&session] { session.Initialize(); });
-  for (std::size_t index = 0; index < queries.size(); ++index) {
-    RunStep("query " + std::to_string(index + 1),
-            [&session, &query = queries[index]] { session.Query(query); });
-  }
-  RunStep("Deinitialize", [&session] { session.Deinitialize(); });
-  RunStep("detaching", [&session] { session.Detach(); });
-}
-
-// Writes a report in large pieces: a writer hands over small ones.
-void WriteToStandardOutput(const report::Report& report, const report::Format& format) {
-  constexpr std::size_t kPiece = 65536;
-  const report::Colour colour =
-      os::StandardOutputShowsColour() ? report::Colour::Headings : report::Colour::Never;
-  std::string pending;
-  format.write(report, {.colour = colour}, [&pending](std::string_view text) {
-    pending += text;
-    if (pending.size() >= kPiece) {
-      os::WriteStandardOutput(pending);
-      pending.clear();
-    }
-  });
-  os::WriteStandardOutput(pending);
-}
-
-// Those that somebody has to look at.
-void TellFindings(const report::Report& report) {
-  for (const report::Finding& finding : report.Findings()) {
-    if (finding.severity != report::Severity::Info) {
-      TellWarning(finding.text);
-    }
-  }
-}
-
-void WriteReport(const report::Report& report, const CollectOptions& options,
-                 os::OutputFile* file) {
-  const report::Format& format = *options.format;
-  if (file == nullptr) {
-    WriteToStandardOutput(report, format);
-  } else {
-    format.write(report, {}, [file](std::string_view text) { file->Write(text); });
-    file->Complete();
-  }
-  if (format.findings == report::FindingsGo::ToStandardError && !options.quiet) {
-    TellFindings(report);
-  }
+int StatusOf(const report::Report& report, const CollectOptions& options) {
+  const std::span<const report::Finding> findings = report.Findings();
+  const bool isGrave =
+      options.failOn && !findings.empty() && findings.front().severity >= *options.failOn;
+  return isGrave ? kExitFindings : kExitDone;
 }
 
 }  // namespace
 
-void Collect(const CollectOptions& options) {
+int Collect(const CollectOptions& options) {
   RefuseSharedFiles(options);
+  const std::optional<report::Limits> limits =
+      options.limits ? std::optional(ReadLimits(*options.limits)) : std::nullopt;
   const Server server =
       options.server ? ReadServer(*options.server) : LoadBuiltInServer(options.demo);
   const std::vector<ClassNames> queries = QueriesOf(options);
@@ -149,9 +86,15 @@ void Collect(const CollectOptions& options) {
   }
   ForwardingObserver observers({trail.Observer(), progress.get()});
 
-  const auto begin = std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now());
+  report::Collected collected;
+  collected.facts = {
+      .server = server.facts,
+      .version = STRAKE_VERSION,
+      .collectedAt = std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now()),
+      .queries = queries.size(),
+      .classes = ClassesOf(queries)};
   platform::HostSession session(server.description, &observers, trail.Sink());
-  RunStep("attaching", [&] { session.Attach(module.Entry()); });
+  Attach(session, module.Entry());
   try {
     RunQueries(session, queries);
   } catch (const RunError&) {
@@ -163,15 +106,13 @@ void Collect(const CollectOptions& options) {
     progress->Erase();
   }
 
-  report::Collected collected;
-  collected.facts = {.server = server.facts,
-                     .version = STRAKE_VERSION,
-                     .collectedAt = begin,
-                     .queries = queries.size()};
   collected.instances = session.Namespace()->TakeCommitted();
+  report::Select(collected, options.selection);
   const report::Report report(
-      std::move(collected), options.showSecrets ? report::Secrets::Shown : report::Secrets::Masked);
+      std::move(collected), options.showSecrets ? report::Secrets::Shown : report::Secrets::Masked,
+      limits);
   WriteReport(report, options, output.get());
+  return StatusOf(report, options);
 }
 
 }  // namespace strake::app

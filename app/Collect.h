@@ -5,9 +5,10 @@
 
 namespace strake::app {
 
-// Throws UsageError or platform::DescriptionError before anything is written;
+// Gives the exit status. Throws UsageError, os::InputError or
+// platform::DescriptionError before anything is written;
 // RunError or platform::SessionError when the run fails, and then there is no
 // report, but what the trace and the log hold of the queries is kept.
-void Collect(const CollectOptions& options);
+int Collect(const CollectOptions& options);
 
 }  // namespace strake::app

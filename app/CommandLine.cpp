@@ -1,24 +1,20 @@
 #include "app/CommandLine.h"
 
-#include "app/BuiltInServers.h"
+#include "app/ClassNames.h"
+#include "app/CommandLineParts.h"
 #include "app/Errors.h"
 #include "app/NearestName.h"
-#include "app/QueryPlan.h"
 
-#include <CLI/CLI.hpp>
 #include <algorithm>
-#include <functional>
 #include <utility>
 
 namespace strake::app {
 namespace {
 
-constexpr int kHighestLogLevel = 4;
-
 constexpr const char* kExamples = R"(Examples:
   strake collect                        the demonstration server, as a table
   strake collect --demo demo-tavit      the other demonstration server
-  strake collect --server rack7.server.json --class VELKSG_SP_NumericSensor
+  strake collect --server rack7.server.json --class sensors --limits limits.toml
   strake collect --format json --output report.json --trace run.trace
   strake check rack7.server.json        is this server description fine?
 
@@ -29,12 +25,15 @@ constexpr const char* kCollectExamples =
 
 Examples:
   strake collect
-  strake collect --class VELKSG_SP_ComputerSystem --class VELKSG_SP_NumericSensor
+  strake collect --class system --class sensors
+  strake collect --class sensors --format csv --output sensors.csv
+  strake collect --sensor 'fan*' --sort reading --limits limits.toml --fail-on warning
   strake collect --query VELKSG_SP_ComputerSystem,VELKSG_SP_NumericSensor --query ""
   strake collect --server rack7.server.json --format json --output report.json
   strake collect --log run.log --trace run.trace
 
-Exit status: 0 the queries ran, 1 the run failed, 2 wrong usage or a refused input.
+Exit status: 0 the queries ran, 1 the run failed, 2 wrong usage or a refused input,
+3 with --fail-on: there is a finding of that severity or above.
 Traces and logs hold what the service processors said, passwords included; they
 are created with mode 0600.)";
 
@@ -48,97 +47,6 @@ Examples:
 
 Exit status: 0 all descriptions are fine, 2 one is refused, 1 the check itself
 failed.)";
-
-// The value as it was typed: converted, "{}" and the empty text would be none.
-using Take = std::function<void(const std::string&)>;
-
-CLI::Option* AddValue(CLI::App& app, const std::string& name, const std::string& type,
-                      const std::string& text, const Take& take) {
-  const auto takeAll = [take](const CLI::results_t& values) {
-    for (const std::string& value : values) {
-      take(value);
-    }
-    return true;
-  };
-  return app.add_option(name, takeAll, text)->type_name(type)->allow_extra_args(false);
-}
-
-std::string RefuseEmptyName(const std::string& name) {
-  return name.empty() ? "the name of a file was expected" : "";
-}
-
-std::string RefuseUnknownClass(const std::string& name) {
-  return IsKnownClass(name) ? ""
-                            : "there is no class '" + name + "', expected one of " + KnownClasses();
-}
-
-std::string RefuseUnknownDemo(const std::string& name) {
-  return FindBuiltInServer(name) != nullptr ? ""
-                                            : "there is no built-in server '" + name +
-                                                  "', expected one of " + BuiltInServerNames();
-}
-
-std::string RefuseUnknownFormat(const std::string& name) {
-  return report::FindFormat(name) != nullptr
-             ? ""
-             : "there is no format '" + name + "', expected " + report::FormatNames();
-}
-
-std::string RefuseLogLevel(const std::string& level) {
-  const bool isLevel = level.size() == 1 && level[0] >= '0' && level[0] <= '0' + kHighestLogLevel;
-  return isLevel ? "" : "'" + level + "' is no level, expected 0 to 4";
-}
-
-CLI::Option* AddFile(CLI::App& app, const std::string& name, const std::string& text,
-                     std::optional<std::filesystem::path>& file) {
-  return AddValue(app, name, "FILE", text, [&file](const std::string& value) { file = value; })
-      ->check(RefuseEmptyName);
-}
-
-void AddInput(CLI::App& app, CollectOptions& options) {
-  CLI::Option* const server =
-      AddFile(app, "--server", "The server description (*.server.json)", options.server);
-  AddValue(app, "--demo", "NAME",
-           "A built-in demonstration server: " + BuiltInServerNames() + "; default: demo-orlo",
-           [&options](const std::string& value) { options.demo = value; })
-      ->check(RefuseUnknownDemo)
-      ->excludes(server);
-  AddFile(app, "--plugin", "The plug-in module; default: strake.so near the command",
-          options.plugin);
-}
-
-void AddQueries(CLI::App& app, CollectOptions& options) {
-  CLI::Option* const classes =
-      AddValue(app, "--class", "NAME", "A class that is wanted (repeatable); default: all eight",
-               [&options](const std::string& value) { options.classes.push_back(value); })
-          ->check(RefuseUnknownClass)
-          ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
-  AddValue(app, "--query", "LIST",
-           "Instead: one query with exactly these classes, separated by commas (repeatable); "
-           "\"\" asks for none",
-           [&options](const std::string& value) { options.queries.push_back(value); })
-      ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll)
-      ->excludes(classes);
-}
-
-void AddOutput(CLI::App& app, CollectOptions& options) {
-  AddValue(app, "--format", "FORMAT",
-           "The report's format: " + report::FormatNames() +
-               "; default: what the ending of --output says, else " +
-               std::string(report::Formats().front().name),
-           [&options](const std::string& value) { options.format = report::FindFormat(value); })
-      ->check(RefuseUnknownFormat);
-  AddFile(app, "--output", "Where the report goes; default: standard output", options.output);
-  AddFile(app, "--trace", "Where to record what crosses the plug-in's boundary", options.trace);
-  AddFile(app, "--log", "Where log lines go; default: standard error", options.log);
-  AddValue(app, "--log-level", "N",
-           "Log lines up to this level, 0 to 4; default: 1, or 4 with --log",
-           [&options](const std::string& value) { options.logLevel = value[0] - '0'; })
-      ->check(RefuseLogLevel);
-  app.add_flag("--show-secrets", options.showSecrets,
-               "Report passwords, PINs and community names in clear");
-  app.add_flag("--quiet", options.quiet, "No progress on a terminal, no warnings");
-}
 
 // CLI11 takes "--name=" for an option whose value follows. It is an empty value.
 std::vector<std::string> Words(int argc, const char* const* argv) {
@@ -173,6 +81,19 @@ std::string DidYouMeanCommand(const std::string& word, const CLI::App& app) {
   return DidYouMean(word, names);
 }
 
+// For people: "collect, check, help or version".
+std::string CommandNames(const CLI::App& app) {
+  const auto commands = app.get_subcommands({});
+  std::string names;
+  for (const CLI::App* const command : commands) {
+    if (!names.empty()) {
+      names += command == commands.back() ? " or " : ", ";
+    }
+    names += command->get_name();
+  }
+  return names;
+}
+
 // What is wrong with a word that nothing took.
 std::string RefusalOfWord(const std::string& word, const CLI::App& app) {
   if (word.size() > 1 && word.front() == '-') {
@@ -196,7 +117,7 @@ std::string RefusalOfWord(const std::string& word, const CLI::App& app) {
   if (!words.empty() && isForLackOfWords) {
     refusal = RefusalOfWord(words.front(), place);
   } else if (given.empty()) {
-    refusal = "a subcommand was expected: collect, check, help or version";
+    refusal = "a subcommand was expected: " + CommandNames(app);
   }
   throw UsageError(refusal + " (see strake" + (&place == &app ? "" : " " + place.get_name()) +
                    " --help)");
@@ -243,9 +164,7 @@ CommandLine ParseCommandLine(int argc, const char* const* argv) {
   CollectOptions collect;
   CLI::App& collectCommand = *app.add_subcommand("collect", "Query the plug-in, print a report");
   collectCommand.footer(kCollectExamples);
-  AddInput(collectCommand, collect);
-  AddQueries(collectCommand, collect);
-  AddOutput(collectCommand, collect);
+  AddCollect(collectCommand, collect);
 
   CheckOptions check;
   CLI::App& checkCommand = *app.add_subcommand("check", "Check server descriptions");
@@ -257,9 +176,12 @@ CommandLine ParseCommandLine(int argc, const char* const* argv) {
       ->allow_extra_args()
       ->check(RefuseEmptyName);
 
+  CLI::App& classesCommand =
+      *app.add_subcommand("classes", "List the classes and their short names");
+
   std::string subject;
   CLI::App& helpCommand = *app.add_subcommand("help", "Say how strake or a subcommand is used");
-  AddValue(helpCommand, "subcommand", "SUBCOMMAND", "collect or check",
+  AddValue(helpCommand, "subcommand", "SUBCOMMAND", "One of the others",
            [&subject](const std::string& value) { subject = value; });
   CLI::App& versionCommand = *app.add_subcommand("version", "Say which version this is");
   app.footer(kExamples);  // a subcommand that is added later would have it too
@@ -273,17 +195,13 @@ CommandLine ParseCommandLine(int argc, const char* const* argv) {
   if (versionCommand.parsed()) {
     return TextAnswer{std::string(kVersion) + "\n"};
   }
+  if (classesCommand.parsed()) {
+    return TextAnswer{ClassList()};
+  }
   if (checkCommand.parsed()) {
     return check;
   }
-  if (collect.log && collectCommand.count("--log-level") == 0) {
-    collect.logLevel = kHighestLogLevel;
-  }
-  if (collect.output && collectCommand.count("--format") == 0) {
-    if (const auto* const format = report::FindFormatOfFile(collect.output->string())) {
-      collect.format = format;
-    }
-  }
+  CompleteCollect(collectCommand, collect);
   return collect;
 }
 

@@ -1,7 +1,5 @@
 #include "app/QueryPlan.h"
 
-#include "cim/Catalogue.h"
-
 #include <algorithm>
 
 namespace strake::app {
@@ -37,14 +35,28 @@ std::vector<ClassNames> PlanQueries(const ClassNames& wanted) {
   return plan;
 }
 
-std::string KnownClasses() {
-  std::string text;
-  for (const ClassNames& query : PlanQueries({})) {
-    for (const std::string& name : query) {
-      text += (text.empty() ? "" : ", ") + name;
+std::vector<ClassNames> QueriesOf(const CollectOptions& options) {
+  if (options.queries.empty()) {
+    return PlanQueries(options.classes);
+  }
+  std::vector<ClassNames> queries;
+  for (const std::string& list : options.queries) {
+    queries.push_back(SplitClassList(list));
+  }
+  return queries;
+}
+
+std::vector<const cim::SchemaClass*> ClassesOf(const std::vector<ClassNames>& queries) {
+  std::vector<const cim::SchemaClass*> classes;
+  for (const cim::SchemaClass& one : cim::SchemaClasses()) {
+    const auto asksForIt = [&one](const ClassNames& query) {
+      return std::ranges::find(query, one.name) != query.end();
+    };
+    if (std::ranges::any_of(queries, asksForIt)) {
+      classes.push_back(&one);
     }
   }
-  return text;
+  return classes;
 }
 
 ClassNames SplitClassList(std::string_view list) {

@@ -59,6 +59,7 @@ bool GoesToStandardOutput(const CollectOptions& options) {
 void RefuseSharedFiles(const CollectOptions& options) {
   std::vector<NamedFile> taken;
   AddInput(taken, "--server", options.server);
+  AddInput(taken, "--limits", options.limits);
   AddInput(taken, "--plugin", options.plugin);
   std::vector<NamedFile> outputs;
   if (GoesToStandardOutput(options)) {

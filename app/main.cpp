@@ -4,6 +4,7 @@
 #include "app/CommandLine.h"
 #include "app/Errors.h"
 #include "app/Messages.h"
+#include "os/InputFile.h"
 #include "os/OutputFile.h"
 #include "os/Signals.h"
 #include "os/Terminal.h"
@@ -17,10 +18,7 @@ namespace strake::app {
 namespace {
 
 struct Runner {
-  int operator()(const CollectOptions& options) const {
-    Collect(options);
-    return kExitDone;
-  }
+  int operator()(const CollectOptions& options) const { return Collect(options); }
   int operator()(const CheckOptions& options) const { return Check(options); }
   int operator()(const TextAnswer& answer) const {
     os::WriteStandardOutput(answer.text);
@@ -41,6 +39,8 @@ int Main(int argc, char** argv) {
   } catch (const UsageError& error) {
     return Fail(error.what(), kExitRefused);
   } catch (const platform::DescriptionError& error) {
+    return Fail(error.what(), kExitRefused);
+  } catch (const os::InputError& error) {
     return Fail(error.what(), kExitRefused);
   } catch (const std::bad_alloc&) {
     return Fail("out of memory", kExitFailed);

@@ -1,4 +1,6 @@
-// A committed CIM instance as the host keeps it. It points into the catalogue.
+// A committed CIM instance as the host keeps it. It points into a catalogue: the
+// host core library holds one and the command another, equal in content, so
+// that classes are compared by their names.
 #pragma once
 
 #include "cim/Catalogue.h"

@@ -3,6 +3,7 @@
 #include <cstdlib>
 #include <fcntl.h>
 #include <string_view>
+#include <sys/ioctl.h>
 #include <unistd.h>
 
 namespace strake::os {
@@ -22,6 +23,15 @@ bool ObeysSequences(int descriptor) {
 
 bool StandardOutputShowsColour() {
   return ObeysSequences(STDOUT_FILENO) && Variable("NO_COLOR").empty();
+}
+
+std::optional<std::size_t> StandardOutputColumns() {
+  winsize size{};
+  if (::isatty(STDOUT_FILENO) == 0 || ::ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) != 0 ||
+      size.ws_col == 0) {
+    return std::nullopt;
+  }
+  return size.ws_col;
 }
 
 bool StandardErrorCanErase() { return ObeysSequences(STDERR_FILENO); }

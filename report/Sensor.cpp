@@ -54,6 +54,17 @@ std::optional<SensorKind> FindSensorKind(std::string_view name) {
   return static_cast<SensorKind>(found - kKinds.begin());
 }
 
+std::string SensorKindNames() {
+  std::string names;
+  for (const Kind& kind : kKinds) {
+    if (!names.empty()) {
+      names += &kind == &kKinds.back() ? " or " : ", ";
+    }
+    names += kind.name;
+  }
+  return names;
+}
+
 std::string_view StateName(SensorState state) {
   return kStates.at(static_cast<std::size_t>(state));
 }

@@ -19,6 +19,8 @@ inline constexpr int kSensorKinds = 6;
 std::string_view KindName(SensorKind kind);
 std::string_view KindHeading(SensorKind kind);
 std::optional<SensorKind> FindSensorKind(std::string_view name);
+// For people: "temperature, fan, ... or other".
+std::string SensorKindNames();
 
 enum class SensorState : std::uint8_t { Ok, Warning, Critical };
 

@@ -66,13 +66,13 @@ TEST(CommandLine, TakesEveryOption) {
   EXPECT_EQ(Collect({"--demo", "demo-tavit"}).demo, "demo-tavit");
 }
 
-TEST(CommandLine, TakesTheFormatOfTheOutputsEndingUnlessOneIsGiven) {
+TEST(CommandLine, TakesTheFormatOfTheOutputsEndingWhenNoneIsGiven) {
   const struct {
     Words words;
     std::string format;
   } cases[] = {
-      {{"--output", "a.json"}, "json"},      {{"--output", "a.json", "--format", "table"}, "table"},
-      {{"--output", "a.txt"}, "table"},      {{"--output", "a.txt", "--format", "json"}, "json"},
+      {{"--output", "a.json"}, "json"},      {{"--output", "a.json", "--format", "json"}, "json"},
+      {{"--output", "a.txt"}, "table"},      {{"--output", "a.log", "--format", "json"}, "json"},
       {{"--output", "a.json.bak"}, "table"}, {{"--output", "json"}, "table"},
       {{"--trace", "a.json"}, "table"},
   };
@@ -87,7 +87,7 @@ TEST(CommandLine, TakesEveryFormatOfTheTableAndNamesItInHelpAndRefusal) {
   EXPECT_NE(help.find(report::FormatNames()), std::string::npos) << help;
   for (const report::Format& format : report::Formats()) {
     const std::string name(format.name);
-    EXPECT_EQ(Collect({"--format", name.c_str()}).format, &format);
+    EXPECT_EQ(Collect({"--format", name.c_str(), "--class", "sensors"}).format, &format);
     EXPECT_NE(help.find(name), std::string::npos) << name;
     EXPECT_NE(refusal.find(name), std::string::npos) << name;
   }
@@ -125,6 +125,66 @@ TEST(CommandLine, KeepsQueriesInOrderAsTheyWereTyped) {
             (Lists{"{}", "[a,b]", "%%"}));
 }
 
+TEST(CommandLine, TakesClassesByTheirShortNames) {
+  EXPECT_EQ(Collect({"--class", "sensors", "--class", "VELKSG_SP_ComputerSystem"}).classes,
+            (std::vector<std::string>{"VELKSG_SP_NumericSensor", "VELKSG_SP_ComputerSystem"}));
+  for (const cim::SchemaClass& one : cim::SchemaClasses()) {
+    const std::string name(one.shortName);
+    EXPECT_EQ(Collect({"--class", name.c_str()}).classes,
+              std::vector<std::string>{std::string(one.name)});
+  }
+}
+
+TEST(CommandLine, AsksForSensorsAloneWhenOnlySomeOfThemAreWanted) {
+  using Names = std::vector<std::string>;
+  EXPECT_EQ(Collect({"--sensor", "fan*"}).classes, Names{"VELKSG_SP_NumericSensor"});
+  EXPECT_EQ(Collect({"--sensor", "fan*"}).selection.sensor, "fan*");
+  EXPECT_EQ(Collect({"--sensor", "fan*", "--class", "system"}).classes,
+            Names{"VELKSG_SP_ComputerSystem"});
+  EXPECT_EQ(Collect({"--sensor", "fan*", "--query", ""}).classes, Names{});
+}
+
+TEST(CommandLine, TakesWhatIsSelectedAndHowItIsLaidOut) {
+  const CollectOptions options =
+      Collect({"--node", "255", "--filter", "network.HostName=a=b.c*", "--filter",
+               "VELKSG_ServProc_DialProtocolEndpoint1.PagerPIN=", "--show-secrets", "--limits", "l",
+               "--fail-on", "warning", "--sort", "reading", "--no-header"});
+  EXPECT_EQ(options.selection.node, 255);
+  ASSERT_EQ(options.selection.filters.size(), 2U);
+  EXPECT_EQ(options.selection.filters[0].schema->name, "VELKSG_ServProc_IPProtocolEndpoint");
+  EXPECT_EQ(options.selection.filters[0].property->name, "HostName");
+  EXPECT_EQ(options.selection.filters[0].glob, "a=b.c*");
+  EXPECT_EQ(options.selection.filters[1].property->name, "PagerPIN");
+  EXPECT_EQ(options.selection.filters[1].glob, "");
+  EXPECT_EQ(options.limits, "l");
+  EXPECT_EQ(options.failOn, report::Severity::Warning);
+  EXPECT_EQ(options.order, report::SensorOrder::ByReading);
+  EXPECT_FALSE(options.header);
+  EXPECT_EQ(Collect({"--fail-on", "critical"}).failOn, report::Severity::Critical);
+}
+
+TEST(CommandLine, RefusesAFormatOfOneClassUnlessExactlyOneIsAskedFor) {
+  for (const report::Format& format : report::Formats()) {
+    if (format.classes != report::Classes::ExactlyOne) {
+      continue;
+    }
+    const std::string name(format.name);
+    const std::string refusal =
+        "--format " + name +
+        " holds one class: ask for it with --class, one of system, network, snmp-dns, dial-out, "
+        "dial-in, serial, alerts, sensors (see strake collect --help)";
+    const char* const text = name.c_str();
+    EXPECT_EQ(RefusalOf({"collect", "--format", text}), refusal);
+    EXPECT_EQ(RefusalOf({"collect", "--format", text, "--class", "system", "--class", "sensors"}),
+              refusal);
+    EXPECT_EQ(RefusalOf({"collect", "--format", text, "--query", "Unheard"}), refusal);
+    EXPECT_EQ(Collect({"--format", text, "--class", "system", "--class", "system"}).format,
+              &format);
+    EXPECT_EQ(Collect({"--format", text, "--sensor", "*"}).format, &format);
+    EXPECT_EQ(Collect({"--format", text, "--query", "VELKSG_SP_ComputerSystem"}).format, &format);
+  }
+}
+
 TEST(CommandLine, TakesOneValueAClassOption) {
   EXPECT_EQ(Collect({"--class", "VELKSG_SP_NumericSensor", "--class", "VELKSG_SP_ComputerSystem"})
                 .classes,
@@ -135,16 +195,14 @@ TEST(CommandLine, TakesOneValueAClassOption) {
 
 TEST(CommandLine, RefusesWhatItDoesNotKnow) {
   const std::string known =
-      "expected one of VELKSG_ServProc_IPProtocolEndpoint, VELKSG_ServProc_IPProtocolEndpoint2, "
-      "VELKSG_ServProc_DialProtocolEndpoint1, VELKSG_ServProc_DialProtocolEndpoint2, "
-      "VELKSG_ServProc_DialProtocolEndpoint3, VELKSG_ServProc_DialProtocolEndpoint4, "
-      "VELKSG_SP_NumericSensor, VELKSG_SP_ComputerSystem";
+      "expected one of system, network, snmp-dns, dial-out, dial-in, serial, alerts, sensors or a "
+      "full name (see strake classes)";
   struct Case {
     Words words;
     std::string expected;
   };
   const std::vector<Case> cases = {
-      {{}, "a subcommand was expected: collect, check, help or version"},
+      {{}, "a subcommand was expected: collect, check, classes, help or version"},
       {{"gather"}, "there is no subcommand 'gather'"},
       {{""}, "there is no subcommand ''"},
       {{"colect", "--server", "s"}, "there is no subcommand 'colect', did you mean 'collect'?"},
@@ -169,11 +227,39 @@ TEST(CommandLine, RefusesWhatItDoesNotKnow) {
       {{"--class="}, "--class: there is no class '', " + known},
       {{"--demo", "x"},
        "--demo: there is no built-in server 'x', expected one of demo-orlo, demo-tavit"},
-      {{"--format", "xml"}, "--format: there is no format 'xml', expected table or json"},
+      {{"--format", "xml"},
+       "--format: there is no format 'xml', expected " + report::FormatNames()},
       {{"--log-level", "5"}, "--log-level: '5' is no level, expected 0 to 4"},
       {{"--log-level", "-1"}, "--log-level: '-1' is no level, expected 0 to 4"},
       {{"--log-level", "2x"}, "--log-level: '2x' is no level, expected 0 to 4"},
       {{"--log-level", ""}, "--log-level: '' is no level, expected 0 to 4"},
+      {{"--node", "0"}, "--node: '0' is no service processor, expected 1 to 255"},
+      {{"--node", "256"}, "--node: '256' is no service processor, expected 1 to 255"},
+      {{"--node", "1x"}, "--node: '1x' is no service processor, expected 1 to 255"},
+      {{"--node="}, "--node: '' is no service processor, expected 1 to 255"},
+      {{"--fail-on", "info"}, "--fail-on: 'info' is none, expected warning or critical"},
+      {{"--fail-on", "3"}, "--fail-on: '3' is none, expected warning or critical"},
+      {{"--sort", "size"}, "--sort: 'size' is none, expected name, reading or state"},
+      {{"--filter", "x"}, "--filter: 'x' is no filter, expected CLASS.PROPERTY=GLOB"},
+      {{"--filter", "system=a.b"},
+       "--filter: 'system=a.b' is no filter, expected CLASS.PROPERTY=GLOB"},
+      {{"--filter", "X.Name=a"}, "--filter: there is no class 'X', " + known},
+      {{"--filter", "network.enabled=a"},
+       "--filter: VELKSG_ServProc_IPProtocolEndpoint has no property 'enabled', did you mean "
+       "'Enabled'?"},
+      {{"--filter", "dial-out.PagerPIN=1*"},
+       "--filter: PagerPIN is a secret, which a filter could guess; expected --show-secrets beside "
+       "it"},
+      {{"--output", "a.json", "--format", "table"},
+       "--format says table, but the ending of --output a.json says json"},
+      {{"--output", "a.txt", "--format", "json"},
+       "--format says json, but the ending of --output a.txt says table"},
+      {{"--format", "json", "--sort", "name"},
+       "--sort: the format json has no layout to choose, expected --format table"},
+      {{"--output", "a.json", "--no-header"},
+       "--no-header: the format json has no layout to choose, expected --format table"},
+      {{"--server", "-", "--limits", "-"}, "--server and --limits: both are standard input"},
+      {{"--limits="}, "--limits: the name of a file was expected"},
       {{"--output", ""}, "--output: the name of a file was expected"},
       {{"--server="}, "--server: the name of a file was expected"},
   };
@@ -232,11 +318,22 @@ TEST(CommandLine, AnswersHelpAndVersionWithText) {
   EXPECT_EQ(std::get<app::TextAnswer>(Parse({"--version"})).text.substr(0, 7), "strake ");
 }
 
+TEST(CommandLine, ListsTheClassesOfTheCatalogue) {
+  const std::string list = std::get<app::TextAnswer>(Parse({"classes"})).text;
+  EXPECT_EQ(std::count(list.begin(), list.end(), '\n'), std::ssize(cim::SchemaClasses()));
+  EXPECT_EQ(list.substr(0, list.find('\n')),
+            "system    VELKSG_SP_ComputerSystem               A service processor and its clock.");
+  for (const cim::SchemaClass& one : cim::SchemaClasses()) {
+    EXPECT_NE(list.find(std::string(one.shortName) + " "), std::string::npos);
+    EXPECT_NE(list.find(" " + std::string(one.name) + " "), std::string::npos);
+  }
+}
+
 TEST(CommandLine, TakesHelpAndVersionAsWords) {
   const auto text = [](const Words& words) { return std::get<app::TextAnswer>(Parse(words)).text; };
   EXPECT_EQ(text({"help"}), text({"--help"}));
   EXPECT_EQ(text({"version"}), text({"--version"}));
-  for (const char* const subject : {"collect", "check", "help", "version"}) {
+  for (const char* const subject : {"collect", "check", "classes", "help", "version"}) {
     EXPECT_EQ(text({"help", subject}), text({subject, "--help"}));
     EXPECT_NE(text({"help", subject}), text({"help"}));
     EXPECT_NE(text({"help", subject}).find(std::string("Usage: strake ") + subject),

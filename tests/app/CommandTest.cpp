@@ -34,7 +34,7 @@ const std::string kServerJson =
     "{\n  \"format\": \"strake-report/1\",\n  \"strake\": \"" STRAKE_VERSION
     "\",\n  \"collected_at\": \"TIME\",\n"
     "  \"server\": {\"name\":\"rack7.server.json\",\"description\":\"One card\","
-    "\"kind\":\"orlo\"},\n  \"instances\": [";
+    "\"kind\":\"orlo\"},\n  \"findings\": [],\n  \"instances\": [";
 
 const std::string kSystemJson =
     kServerJson +

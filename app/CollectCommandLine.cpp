@@ -1,0 +1,236 @@
+// The options of `strake collect`.
+#include "app/BuiltInServers.h"
+#include "app/ClassNames.h"
+#include "app/CommandLineParts.h"
+#include "app/Errors.h"
+#include "app/PropertyFilter.h"
+#include "app/QueryPlan.h"
+#include "app/Server.h"
+#include "cim/Catalogue.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+
+namespace strake::app {
+namespace {
+
+constexpr int kHighestLogLevel = 4;
+constexpr int kHighestNode = 255;
+
+std::string RefuseUnknownClass(const std::string& name) {
+  return cim::FindClassByAnyName(name) != nullptr ? "" : RefusalOfClass(name);
+}
+
+std::string RefuseUnknownDemo(const std::string& name) {
+  return FindBuiltInServer(name) != nullptr ? ""
+                                            : "there is no built-in server '" + name +
+                                                  "', expected one of " + BuiltInServerNames();
+}
+
+std::string RefuseUnknownFormat(const std::string& name) {
+  return report::FindFormat(name) != nullptr
+             ? ""
+             : "there is no format '" + name + "', expected " + report::FormatNames();
+}
+
+std::string RefuseLogLevel(const std::string& level) {
+  const bool isLevel = level.size() == 1 && level[0] >= '0' && level[0] <= '0' + kHighestLogLevel;
+  return isLevel ? "" : "'" + level + "' is no level, expected 0 to 4";
+}
+
+std::optional<int> ParseNode(const std::string& text) {
+  int node = 0;
+  const char* const end = text.data() + text.size();
+  const auto [stop, error] = std::from_chars(text.data(), end, node);
+  const bool isNode = error == std::errc() && stop == end && node >= 1 && node <= kHighestNode;
+  return isNode ? std::optional<int>(node) : std::nullopt;
+}
+
+std::string RefuseNode(const std::string& node) {
+  return ParseNode(node) ? "" : "'" + node + "' is no service processor, expected 1 to 255";
+}
+
+std::string RefuseFilter(const std::string& filter) {
+  try {
+    static_cast<void>(ParsePropertyFilter(filter));
+    return "";
+  } catch (const UsageError& error) {
+    return error.what();
+  }
+}
+
+std::optional<report::Severity> ParseFailOn(const std::string& name) {
+  const std::optional<report::Severity> severity = report::FindSeverity(name);
+  return severity == report::Severity::Info ? std::nullopt : severity;
+}
+
+std::string RefuseFailOn(const std::string& name) {
+  return ParseFailOn(name) ? "" : "'" + name + "' is none, expected warning or critical";
+}
+
+struct NamedOrder {
+  std::string_view name;
+  report::SensorOrder order;
+};
+
+constexpr std::array<NamedOrder, 3> kOrders{{
+    {"name", report::SensorOrder::ByName},
+    {"reading", report::SensorOrder::ByReading},
+    {"state", report::SensorOrder::ByState},
+}};
+
+const NamedOrder* FindOrder(std::string_view name) {
+  const auto* const found = std::ranges::find(kOrders, name, &NamedOrder::name);
+  return found == kOrders.end() ? nullptr : found;
+}
+
+std::string RefuseOrder(const std::string& name) {
+  return FindOrder(name) != nullptr ? ""
+                                    : "'" + name + "' is none, expected name, reading or state";
+}
+
+void AddInput(CLI::App& app, CollectOptions& options) {
+  CLI::Option* const server =
+      AddFile(app, "--server", "The server description (*.server.json)", options.server);
+  AddValue(app, "--demo", "NAME",
+           "A built-in demonstration server: " + BuiltInServerNames() + "; default: demo-orlo",
+           [&options](const std::string& value) { options.demo = value; })
+      ->check(RefuseUnknownDemo)
+      ->excludes(server);
+  AddFile(app, "--plugin", "The plug-in module; default: strake.so near the command",
+          options.plugin);
+}
+
+void AddQueries(CLI::App& app, CollectOptions& options) {
+  CLI::Option* const classes =
+      AddValue(app, "--class", "NAME",
+               "A class that is wanted (repeatable), by its name or as " + ShortClassNames() +
+                   "; default: all eight",
+               [&options](const std::string& value) {
+                 options.classes.emplace_back(cim::FindClassByAnyName(value)->name);
+               })
+          ->check(RefuseUnknownClass)
+          ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
+  AddValue(app, "--query", "LIST",
+           "Instead: one query with exactly these classes, separated by commas (repeatable); "
+           "\"\" asks for none",
+           [&options](const std::string& value) { options.queries.push_back(value); })
+      ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll)
+      ->excludes(classes);
+}
+
+void AddSelection(CLI::App& app, CollectOptions& options) {
+  AddValue(app, "--node", "N", "Report this service processor alone, from 1",
+           [&options](const std::string& value) { options.selection.node = ParseNode(value); })
+      ->check(RefuseNode);
+  AddValue(app, "--sensor", "GLOB",
+           "Of the sensors, those whose names fit, with * and ?; asks for sensors alone unless "
+           "--class or --query says otherwise",
+           [&options](const std::string& value) { options.selection.sensor = value; });
+  AddValue(app, "--filter", "CLASS.PROPERTY=GLOB",
+           "Of the class, the instances whose property fits (repeatable)",
+           [&options](const std::string& value) {
+             options.selection.filters.push_back(ParsePropertyFilter(value));
+           })
+      ->check(RefuseFilter)
+      ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
+  AddFile(app, "--limits", "Between which readings sensors are fine (TOML)", options.limits);
+  AddValue(app, "--fail-on", "SEVERITY",
+           "Exit with 3 when there is a finding of this severity or above: warning or critical",
+           [&options](const std::string& value) { options.failOn = ParseFailOn(value); })
+      ->check(RefuseFailOn);
+}
+
+void AddOutput(CLI::App& app, CollectOptions& options) {
+  AddValue(app, "--format", "FORMAT",
+           "The report's format: " + report::FormatNames() +
+               "; default: what the ending of --output says, else " +
+               std::string(report::Formats().front().name),
+           [&options](const std::string& value) { options.format = report::FindFormat(value); })
+      ->check(RefuseUnknownFormat);
+  AddFile(app, "--output", "Where the report goes; default: standard output", options.output);
+  AddValue(app, "--sort", "KEY",
+           "How the table's sensors follow each other: name, reading or state",
+           [&options](const std::string& value) { options.order = FindOrder(value)->order; })
+      ->check(RefuseOrder);
+  app.add_flag("!--no-header", options.header, "The table's rows alone");
+  AddFile(app, "--trace", "Where to record what crosses the plug-in's boundary", options.trace);
+  AddFile(app, "--log", "Where log lines go; default: standard error", options.log);
+  AddValue(app, "--log-level", "N",
+           "Log lines up to this level, 0 to 4; default: 1, or 4 with --log",
+           [&options](const std::string& value) { options.logLevel = value[0] - '0'; })
+      ->check(RefuseLogLevel);
+  app.add_flag("--show-secrets", options.showSecrets,
+               "Report passwords, PINs and community names in clear");
+  app.add_flag("--quiet", options.quiet, "No progress on a terminal, no warnings");
+}
+
+[[noreturn]] void Refuse(const std::string& text) {
+  throw UsageError(text + " (see strake collect --help)");
+}
+
+// The ending of the output picks the format or agrees with it.
+void ChooseFormat(const CLI::App& command, CollectOptions& options) {
+  const report::Format* const ofFile =
+      options.output ? report::FindFormatOfFile(options.output->string()) : nullptr;
+  if (ofFile == nullptr) {
+    return;
+  }
+  if (command.count("--format") == 0) {
+    options.format = ofFile;
+  } else if (options.format != ofFile) {
+    Refuse("--format says " + std::string(options.format->name) + ", but the ending of --output " +
+           options.output->string() + " says " + std::string(ofFile->name));
+  }
+}
+
+void RefuseLayoutOfOtherFormats(const CLI::App& command, const CollectOptions& options) {
+  for (const std::string option : {"--sort", "--no-header"}) {
+    if (options.format->laid == report::Laid::AsItIs && command.count(option) != 0) {
+      Refuse(option + ": the format " + std::string(options.format->name) +
+             " has no layout to choose, expected --format table");
+    }
+  }
+}
+
+// A mask does not tell a wrong guess from a right one.
+void RefuseFiltersOfSecrets(const CollectOptions& options) {
+  for (const report::PropertyFilter& filter : options.selection.filters) {
+    if (filter.property->role == cim::Role::Secret && !options.showSecrets) {
+      Refuse("--filter: " + std::string(filter.property->name) +
+             " is a secret, which a filter could guess; expected --show-secrets beside it");
+    }
+  }
+}
+
+}  // namespace
+
+void AddCollect(CLI::App& command, CollectOptions& options) {
+  AddInput(command, options);
+  AddQueries(command, options);
+  AddSelection(command, options);
+  AddOutput(command, options);
+}
+
+void CompleteCollect(const CLI::App& command, CollectOptions& options) {
+  if (options.log && command.count("--log-level") == 0) {
+    options.logLevel = kHighestLogLevel;
+  }
+  if (options.server == kStandardInput && options.limits == kStandardInput) {
+    Refuse("--server and --limits: both are standard input");
+  }
+  if (options.selection.sensor && options.classes.empty() && options.queries.empty()) {
+    options.classes = cim::ClassNamesOf(cim::QueryGroup::Sensors);
+  }
+  ChooseFormat(command, options);
+  RefuseLayoutOfOtherFormats(command, options);
+  RefuseFiltersOfSecrets(options);
+  if (options.format->classes == report::Classes::ExactlyOne &&
+      ClassesOf(QueriesOf(options)).size() != 1) {
+    Refuse("--format " + std::string(options.format->name) +
+           " holds one class: ask for it with --class, one of " + ShortClassNames());
+  }
+}
+
+}  // namespace strake::app

@@ -1,0 +1,179 @@
+#include "app/LimitsFile.h"
+
+#include "app/NearestName.h"
+#include "app/Server.h"
+#include "os/InputFile.h"
+#include "text/Quote.h"
+#include "text/TextEscape.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <cstdint>
+#include <optional>
+#include <span>
+#define TOML_EXCEPTIONS 1
+#include <toml++/toml.h>
+
+namespace strake::app {
+namespace {
+
+// Nobody's limits are longer; what is, is another file.
+constexpr std::size_t kMostLimitsBytes = 1U << 20U;
+constexpr int kHighestSp = 255;
+
+using report::Bound;
+using report::LimitRule;
+
+struct BoundKey {
+  std::string_view key;
+  std::optional<Bound> LimitRule::*bound;
+};
+
+// From the lowest to the highest.
+constexpr std::array<BoundKey, 4> kBounds{{
+    {"lower_critical", &LimitRule::lowerCritical},
+    {"lower_warning", &LimitRule::lowerWarning},
+    {"upper_warning", &LimitRule::upperWarning},
+    {"upper_critical", &LimitRule::upperCritical},
+}};
+
+constexpr std::array<std::string_view, 7> kKeys{
+    "sensor", "kind", "sp", "lower_critical", "lower_warning", "upper_warning", "upper_critical"};
+constexpr std::array<std::string_view, 1> kTopKeys{"limit"};
+
+std::string Place(const std::string& name, const toml::source_region& region) {
+  return text::EscapeForPeople(name) + ": line " + std::to_string(region.begin.line);
+}
+
+class Reader {
+ public:
+  explicit Reader(const std::string& name) : fName(&name) {}
+
+  [[nodiscard]] report::Limits Read(const toml::table& table) const {
+    RefuseOtherKeys(table, kTopKeys);
+    report::Limits limits;
+    const toml::node* const rules = table.get("limit");
+    if (rules == nullptr) {
+      throw os::InputError(text::EscapeForPeople(*fName) + ": has no [[limit]], and so no limits");
+    }
+    const toml::array* const array = rules->as_array();
+    if (array == nullptr) {
+      Refuse(*rules, "limit is an array of tables: [[limit]]");
+    }
+    for (const toml::node& rule : *array) {
+      const toml::table* const one = rule.as_table();
+      if (one == nullptr) {
+        Refuse(rule, "limit is an array of tables: [[limit]]");
+      }
+      limits.push_back(ReadRule(*one));
+    }
+    return limits;
+  }
+
+ private:
+  [[noreturn]] void Refuse(const toml::node& node, const std::string& expected) const {
+    throw os::InputError(Place(*fName, node.source()) + ": " + expected);
+  }
+
+  void RefuseOtherKeys(const toml::table& table, std::span<const std::string_view> known) const {
+    for (const auto& [key, value] : table) {
+      if (std::ranges::find(known, key.str()) == known.end()) {
+        throw os::InputError(Place(*fName, key.source()) + ": there is no key " +
+                             text::Quoted(key.str()) + DidYouMean(key.str(), known));
+      }
+    }
+  }
+
+  [[nodiscard]] LimitRule ReadRule(const toml::table& table) const {
+    RefuseOtherKeys(table, kKeys);
+    LimitRule rule;
+    if (const toml::node* const sensor = table.get("sensor")) {
+      rule.sensor = Text(*sensor, "sensor is a text: the name of sensors, with * and ?");
+    }
+    if (const toml::node* const kind = table.get("kind")) {
+      rule.kind = Kind(*kind);
+    }
+    if (const toml::node* const sp = table.get("sp")) {
+      rule.sp = Sp(*sp);
+    }
+    const Bound* lower = nullptr;
+    for (const auto& [key, bound] : kBounds) {
+      if (const toml::node* const node = table.get(key)) {
+        rule.*bound = Number(*node, key);
+        if (lower != nullptr && (rule.*bound)->value < lower->value) {
+          Refuse(*node, std::string(key) + " is lower than the bound below it, " + lower->text);
+        }
+        lower = &*(rule.*bound);
+      }
+    }
+    if (lower == nullptr) {
+      Refuse(table,
+             "a limit has at least one bound: lower_critical, lower_warning, "
+             "upper_warning or upper_critical");
+    }
+    return rule;
+  }
+
+  [[nodiscard]] std::string Text(const toml::node& node, const std::string& expected) const {
+    const auto text = node.value_exact<std::string>();
+    if (!text) {
+      Refuse(node, expected);
+    }
+    return *text;
+  }
+
+  [[nodiscard]] report::SensorKind Kind(const toml::node& node) const {
+    const std::string expected = "kind is " + report::SensorKindNames();
+    const auto kind = report::FindSensorKind(Text(node, expected));
+    if (!kind) {
+      Refuse(node, expected);
+    }
+    return *kind;
+  }
+
+  [[nodiscard]] int Sp(const toml::node& node) const {
+    const auto sp = node.value_exact<std::int64_t>();
+    if (!sp || *sp < 1 || *sp > kHighestSp) {
+      Refuse(node, "sp is the number of a service processor, 1 to 255");
+    }
+    return static_cast<int>(*sp);
+  }
+
+  [[nodiscard]] Bound Number(const toml::node& node, std::string_view key) const {
+    const auto value = node.value<double>();
+    if (!node.is_number() || !value || !std::isfinite(*value)) {
+      Refuse(node, std::string(key) + " is a number, in the unit in which reports show the sensor");
+    }
+    std::array<char, 32> text{};
+    const auto [end, error] = std::to_chars(text.data(), text.data() + text.size(), *value);
+    return {*value, std::string(text.data(), end)};
+  }
+
+  const std::string* fName;
+};
+
+}  // namespace
+
+report::Limits ParseLimits(std::string_view text, const std::string& name) {
+  try {
+    return Reader(name).Read(toml::parse(text));
+  } catch (const toml::parse_error& error) {
+    throw os::InputError(Place(name, error.source()) + ": " +
+                         text::Printable(std::string(error.description())));
+  }
+}
+
+report::Limits ReadLimits(const std::filesystem::path& file) {
+  const bool isStandardInput = file == kStandardInput;
+  const std::string name = isStandardInput ? "standard input" : file.string();
+  const std::string text = isStandardInput ? os::ReadInput(stdin, name, kMostLimitsBytes)
+                                           : os::ReadInput(file, kMostLimitsBytes);
+  if (text.size() > kMostLimitsBytes) {
+    throw os::InputError(text::EscapeForPeople(name) + ": a file of limits has at most 1 MiB");
+  }
+  return ParseLimits(text, name);
+}
+
+}  // namespace strake::app

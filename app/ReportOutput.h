@@ -1,0 +1,13 @@
+// Where a finished report goes.
+#pragma once
+
+#include "app/CollectOptions.h"
+#include "os/OutputFile.h"
+
+namespace strake::app {
+
+// Writes it to the file, or to standard output when that is null, and tells on
+// standard error what the format has no place for. Throws os::OutputError.
+void WriteReport(const report::Report& report, const CollectOptions& options, os::OutputFile* file);
+
+}  // namespace strake::app
