@@ -4,11 +4,11 @@
 #include "app/CommandLine.h"
 #include "app/Errors.h"
 #include "app/Messages.h"
-#include "os/InputFile.h"
 #include "os/OutputFile.h"
 #include "os/Signals.h"
 #include "os/Terminal.h"
 #include "platform/server/ServerDescription.h"
+#include "text/InputError.h"
 
 #include <exception>
 #include <new>
@@ -38,9 +38,7 @@ int Main(int argc, char** argv) {
     return std::visit(Runner(), ParseCommandLine(argc, argv));
   } catch (const UsageError& error) {
     return Fail(error.what(), kExitRefused);
-  } catch (const platform::DescriptionError& error) {
-    return Fail(error.what(), kExitRefused);
-  } catch (const os::InputError& error) {
+  } catch (const text::InputError& error) {
     return Fail(error.what(), kExitRefused);
   } catch (const std::bad_alloc&) {
     return Fail("out of memory", kExitFailed);
