@@ -2,6 +2,7 @@
 #include "app/Check.h"
 #include "app/Collect.h"
 #include "app/CommandLine.h"
+#include "app/Diff.h"
 #include "app/Errors.h"
 #include "app/Messages.h"
 #include "os/OutputFile.h"
@@ -20,6 +21,7 @@ namespace {
 struct Runner {
   int operator()(const CollectOptions& options) const { return Collect(options); }
   int operator()(const CheckOptions& options) const { return Check(options); }
+  int operator()(const DiffOptions& options) const { return Diff(options); }
   int operator()(const TextAnswer& answer) const {
     os::WriteStandardOutput(answer.text);
     return kExitDone;
