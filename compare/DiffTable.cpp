@@ -43,6 +43,36 @@ std::string TextOf(const Change& change) {
   return ValueText(change.before) + " -> " + ValueText(change.after);
 }
 
+std::string ReadingText(const cim::StoredInstance& instance) {
+  const report::Sensor sensor = report::SensorOf(instance);
+  std::string text = report::ReadingForPeople(sensor);
+  if (!sensor.unit.empty()) {
+    text.append(" ").append(report::UnitForPeople(sensor));
+  }
+  return text;
+}
+
+bool IsPartOfReading(const Change& change) {
+  return change.property->name == "CurrentReading" || change.property->name == "UnitModifier" ||
+         change.property->name == "BaseUnits";
+}
+
+// What changed of an instance that is in both. What makes up a sensor's reading
+// is one row.
+std::vector<report::Row> RowsOf(const Difference& one) {
+  std::vector<report::Row> rows;
+  bool hasReading = false;
+  for (const Change& change : one.changes) {
+    if (!report::IsSensor(*one.before) || !IsPartOfReading(change)) {
+      rows.push_back({std::string(change.property->label), TextOf(change)});
+    } else if (!hasReading) {
+      hasReading = true;
+      rows.push_back({"Reading", ReadingText(*one.before) + " -> " + ReadingText(*one.after)});
+    }
+  }
+  return rows;
+}
+
 const char* SignOf(const Difference& one) {
   if (one.before == nullptr) {
     return "+ ";
@@ -50,16 +80,16 @@ const char* SignOf(const Difference& one) {
   return one.after == nullptr ? "- " : "~ ";
 }
 
-void AppendChanges(std::string& out, const std::vector<Change>& changes) {
+void AppendRows(std::string& out, const std::vector<report::Row>& rows) {
   std::size_t width = 0;
-  for (const Change& change : changes) {
-    width = std::max(width, change.property->label.size());
+  for (const report::Row& row : rows) {
+    width = std::max(width, row.label.size());
   }
-  for (const Change& change : changes) {
+  for (const report::Row& row : rows) {
     out += "    ";
-    out += change.property->label;
-    out.append(width + 2 - change.property->label.size(), ' ');
-    out += TextOf(change) + "\n";
+    out += row.label;
+    out.append(width + 2 - row.label.size(), ' ');
+    out.append(row.value).append("\n");
   }
 }
 
@@ -83,7 +113,7 @@ void WriteDiffTable(const DiffReport& diff, const Sink& sink) {
   for (const Difference& one : diff.differences) {
     std::string out = SignOf(one);
     out.append(TitleOf(one.before == nullptr ? *one.after : *one.before)).append("\n");
-    AppendChanges(out, one.changes);
+    AppendRows(out, RowsOf(one));
     sink(out);
   }
   sink(diff.differences.empty() ? "No differences.\n" : "\n");
