@@ -113,6 +113,9 @@ std::optional<double> ReadingValue(const Sensor& sensor) {
 }
 
 std::string ReadingForPeople(const Sensor& sensor) {
+  if (sensor.instance == nullptr) {
+    return "no answer";
+  }
   return sensor.reading.empty() ? "no reading" : sensor.reading;
 }
 

@@ -57,8 +57,8 @@ Sensor SensorOf(const SilentSensor& silent);
 // The reading's value, for comparison and drawing; empty without a reading.
 std::optional<double> ReadingValue(const Sensor& sensor);
 
-// Both safe to show: "no reading" when there is none; of a unit without a sign
-// "unit 7".
+// Both safe to show: "no answer" of a sensor that gave none, "no reading" when
+// there is none in it; of a unit without a sign "unit 7".
 std::string ReadingForPeople(const Sensor& sensor);
 std::string UnitForPeople(const Sensor& sensor);
 

@@ -209,7 +209,7 @@ warning: 2 instances of VELKSG_SP_ComputerSystem have equal keys: SourceNode=1, 
 
 TEST(TableReport, ColoursHeadingsAndNothingElse) {
   const std::vector<cim::StoredInstance> instances = {Sensor(1, "Fan", 1, 65, 0)};
-  EXPECT_EQ(Written(report::WriteTable, ReportOf(instances), {.colour = Colour::Headings}),
+  EXPECT_EQ(Written(report::WriteTable, ReportOf(instances), {.colour = Colour::Terminal}),
             "\x1b[1mrack7 (orlo)\x1b[0m\n\n\x1b[1mService processor 1\x1b[0m\n\n"
             "  \x1b[1mSensors (VELKSG_SP_NumericSensor)\x1b[0m\n    Fan  1 %\n\n"
             "1 instance, 1 query, 1 service processor\n");
