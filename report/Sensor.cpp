@@ -39,6 +39,13 @@ std::string NameOf(const cim::StoredInstance& sensor) {
   return "(no name)";
 }
 
+// Some of the service processors' names end with blanks, which nobody writes in
+// a pattern.
+std::string WithoutBlanksAtItsEnd(std::string name) {
+  name.erase(name.find_last_not_of(' ') + 1);
+  return name;
+}
+
 const Kind& At(SensorKind kind) { return kKinds.at(static_cast<std::size_t>(kind)); }
 
 }  // namespace
@@ -77,7 +84,7 @@ Sensor SensorOf(const cim::StoredInstance& instance) {
   Sensor sensor;
   sensor.instance = &instance;
   sensor.sp = SourceNode(instance);
-  sensor.name = NameOf(instance);
+  sensor.name = WithoutBlanksAtItsEnd(NameOf(instance));
   if (const auto* const units = cim::FindValueOf<std::uint16_t>(instance, "BaseUnits")) {
     sensor.unit = UnitText(*units);
     sensor.kind = KindOfUnit(*units);
@@ -92,7 +99,7 @@ Sensor SensorOf(const cim::StoredInstance& instance) {
 Sensor SensorOf(const SilentSensor& silent) {
   Sensor sensor;
   sensor.sp = silent.sp;
-  sensor.name = silent.name;
+  sensor.name = WithoutBlanksAtItsEnd(silent.name);
   sensor.kind = silent.kind;
   return sensor;
 }

@@ -30,7 +30,7 @@ std::string_view StateName(SensorState state);
 struct Sensor {
   const cim::StoredInstance* instance = nullptr;  // null: the sensor did not answer
   std::optional<int> sp;                          // from 1
-  std::string name;                               // of the SP's: not safe to show
+  std::string name;  // without blanks at its end; of the SP's: not safe to show
   SensorKind kind = SensorKind::Other;
   // A decimal number, exact: "5.00"; empty when there is none. With a modifier
   // that nobody would write out it has an exponent.
