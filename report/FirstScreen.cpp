@@ -91,7 +91,6 @@ void WriteInShort(const Parts& parts, TableText& out) {
 }
 
 // Those that did not answer before all others, then by the gravest finding.
-// What stays away is behind what stands here.
 Parts GravestFirst(const Report& report, std::span<const ProcessorPart> parts) {
   std::map<std::optional<int>, Severity> gravest;
   for (const Finding& finding : report.Findings()) {
@@ -107,7 +106,9 @@ Parts GravestFirst(const Report& report, std::span<const ProcessorPart> parts) {
   };
   Parts sorted;
   for (const ProcessorPart& part : parts) {
-    sorted.push_back(&part);
+    if (part.number || !part.sensors.empty()) {
+      sorted.push_back(&part);
+    }
   }
   std::ranges::stable_sort(sorted, std::greater<>(), rank);
   return sorted;
@@ -120,8 +121,8 @@ std::string RestText(std::span<const ProcessorPart* const> rest) {
          (silent == 0 ? "all answered" : std::to_string(silent) + " of which did not answer");
 }
 
-void WriteProcessors(const Report& report, std::span<const ProcessorPart> parts, TableText& out) {
-  Parts shown = GravestFirst(report, parts);
+// The gravest come first, and are written by number.
+void WriteProcessors(Parts shown, TableText& out) {
   Parts rest;
   if (shown.size() > kMostProcessors) {
     rest.assign(shown.begin() + kMostProcessors, shown.end());
@@ -148,11 +149,12 @@ void WriteFindingsInShort(std::span<const Finding> findings, TableText& out) {
 }  // namespace
 
 void WriteFirstScreen(const Report& report, std::span<const ProcessorPart> parts, TableText& out) {
-  if (!parts.empty()) {
+  const Parts shown = GravestFirst(report, parts);
+  if (!shown.empty()) {
     out.Blank();
-    WriteProcessors(report, parts, out);
+    WriteProcessors(shown, out);
   }
-  if (!parts.empty() || !report.Findings().empty()) {
+  if (!shown.empty() || !report.Findings().empty()) {
     out.Blank();
     WriteFindingsInShort(report.Findings(), out);
   }

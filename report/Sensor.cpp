@@ -8,6 +8,7 @@
 #include <array>
 #include <charconv>
 #include <limits>
+#include <memory>
 #include <system_error>
 
 namespace strake::report {
@@ -106,7 +107,7 @@ Sensor SensorOf(const SilentSensor& silent) {
 
 std::optional<double> ReadingValue(const Sensor& sensor) {
   double value = 0;
-  const char* const end = sensor.reading.data() + sensor.reading.size();
+  const char* const end = std::to_address(sensor.reading.end());
   const auto [stop, error] = std::from_chars(sensor.reading.data(), end, value);
   if (sensor.reading.empty() || stop != end) {
     return std::nullopt;

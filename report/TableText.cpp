@@ -41,7 +41,7 @@ Shade ShadeOf(SensorState state) {
   return Shade::None;
 }
 
-void Widen(Columns& columns, const Cells& cells) {
+void Widen(Columns& columns, std::span<const Cell> cells) {
   for (std::size_t index = 0; index < cells.size(); ++index) {
     std::size_t& width = columns[index].width;
     width = std::max(width, text::CountCodePoints(cells[index].text));

@@ -8,6 +8,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -39,7 +40,7 @@ struct Column {
 using Columns = std::vector<Column>;
 
 // Makes the columns as wide as the cells need; there are as many cells at most.
-void Widen(Columns& columns, const Cells& cells);
+void Widen(Columns& columns, std::span<const Cell> cells);
 std::size_t WidthOf(const Columns& columns);
 
 // "1 sensor", "2 sensors", "0 queries".
