@@ -38,7 +38,7 @@ bool IsSelected(const SilentSensor& silent, const Selection& selection) {
   if (selection.node && silent.sp != selection.node) {
     return false;
   }
-  if (selection.sensor && !text::MatchesGlob(*selection.sensor, silent.name)) {
+  if (selection.sensor && !text::MatchesGlob(*selection.sensor, SensorOf(silent).name)) {
     return false;
   }
   return std::ranges::all_of(selection.filters, [&silent](const PropertyFilter& filter) {

@@ -83,6 +83,14 @@ TEST(Selection, LeavesSensorsByTheirNamesAndOtherClassesAlone) {
   EXPECT_EQ(Left({.sensor = ""}), "a b system | 1 2 | | 4.4.1 held");
 }
 
+TEST(Selection, KnowsNamesWithoutTheBlanksAtTheirEnd) {
+  const Collected collected{.facts = SomeFacts(),
+                            .instances = {Sensor(1, "Fan 1 ", 1, 65, 0)},
+                            .silentSensors = {{1, "Fan 2 ", SensorKind::Fan}}};
+  EXPECT_EQ(Left({.sensor = "Fan ?"}, collected), "Fan 1  | | Fan 2  |");
+  EXPECT_EQ(Left({.sensor = "Fan ? "}, collected), "| | |");
+}
+
 TEST(Selection, LeavesTheInstancesOfAClassWhosePropertyFits) {
   const auto network = Filter("VELKSG_ServProc_IPProtocolEndpoint", "HostName", "A");
   EXPECT_EQ(Left({.filters = {network}}),
