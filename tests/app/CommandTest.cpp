@@ -21,6 +21,10 @@ const std::string kServer = R"({"format": "strake-server/1", "description": "One
 
 const std::string kSystemTable = R"(rack7.server.json (orlo): One card
 
+SP 1  answered  2010-06-15 13:45:30 UTC-02:00
+
+Findings: none
+
 Service processor 1
 
   Computer system (VELKSG_SP_ComputerSystem)
@@ -136,8 +140,9 @@ TEST_F(CommandTest, WarnsOfEqualKeysBesideTheReport) {
   const Outcome table = Collect(twice);
   EXPECT_EQ(table.status, 0);
   EXPECT_EQ(table.err, "");
-  EXPECT_EQ(table.out.substr(table.out.find("2 instances, ")),
-            "2 instances, 2 queries, 1 service processor\nwarning: " + warning);
+  EXPECT_EQ(
+      table.out.substr(table.out.find("\nFindings\n")),
+      "\nFindings\n  warning  " + warning + "\n2 instances, 2 queries, 1 service processor\n");
   const Outcome json = Collect({twice[0], twice[1], twice[2], twice[3], "--format", "json"});
   EXPECT_EQ(json.status, 0);
   EXPECT_EQ(json.err, "");
@@ -201,8 +206,9 @@ TEST_F(CommandTest, ColoursHeadingsOnATerminalOnly) {
   const std::vector<std::string> words = {"collect", "--server", fServer, "--class",
                                           "VELKSG_SP_ComputerSystem"};
   std::string coloured = kSystemTable;
-  for (const std::string heading : {"rack7.server.json (orlo): One card", "Service processor 1",
-                                    "Computer system (VELKSG_SP_ComputerSystem)"}) {
+  for (const std::string heading :
+       {"rack7.server.json (orlo): One card", "SP 1", "Findings: none", "Service processor 1",
+        "Computer system (VELKSG_SP_ComputerSystem)"}) {
     coloured.replace(coloured.find(heading), heading.size(), "\x1b[1m" + heading + "\x1b[0m");
   }
   EXPECT_EQ(Command(words).Environment("TERM=xterm").RunOnTerminal(), (Outcome{0, coloured, ""}));
