@@ -62,7 +62,7 @@ TEST(HostileCalls, NameCommandsOfAnyLength) {
        {std::string(), std::string(1, '\0'), Id("9.8.7.6.5.4.3"), std::string(100000, '\xFF')}) {
     Send(watch, 0, identifier, false, 0);
   }
-  Send(watch, 0, std::string(100000, '\xFF'), false, 0);
+  Send(watch, 0, std::string(100000, '\xFF') + '\1', false, 0);
   EXPECT_EQ(FindingLines(WhatItTells(watch)),
             Lines{"warning command-unanswered 1: 5 of 5 commands to SP 1 had no reply: a command "
                   "without identifier, command 0, command 9.8.7.6.5.4.3, command "
@@ -100,12 +100,28 @@ TEST(HostileCalls, CountComponentsOfAnyIdentifierOnceAnSpIsKnown) {
                    "critical sp-silent 2: SP 2 did not answer its presence test"}));
 }
 
+TEST(HostileCalls, TakeATimeZoneForTheClocksOnlyBehindOne) {
+  CollectionWatch watch;
+  for (const char* const between : {"1.1", "4.9.3.1.1"}) {
+    Send(watch, 0, Id("4.4.1"), true, 7);
+    Send(watch, 0, Id(between), true, 1);
+    Send(watch, 0, Id("4.4.2"), true, -1);
+  }
+  EXPECT_EQ(FindingLines(WhatItTells(watch)), Lines{});
+  Send(watch, 0, Id("4.4.1"), true, 7);
+  Send(watch, 0, Id("4.4.2"), true, -1);
+  EXPECT_EQ(FindingLines(WhatItTells(watch)),
+            Lines{"warning command-unanswered 1: 1 of 7 commands to SP 1 had no reply: "
+                  "SP time zone"});
+}
+
 TEST(HostileCalls, LookAtListsOfKnownFamiliesAndCodesAlone) {
   CollectionWatch watch;
   SendKestle(watch, 0xA6, false, 0, "");
   watch.OnHostText(BoundaryCall::GetSystemName, "5125");
   SendKestle(watch, 0xA6, false, 0, "");
   watch.OnHostText(BoundaryCall::GetMachineTypeFromID, "5125");
+  watch.OnSpQuestion("isQmvStop", true);
   for (const int code : {-1, 0, 0xA5, 0xA6 + 256, kLowest, kHighest}) {
     SendKestle(watch, code, true, 5, "\x05");
   }
@@ -145,6 +161,7 @@ TEST(HostileCalls, TellHowManyQueriesSomethingHappenedIn) {
   watch.OnQuery({});
   watch.OnSpQuestion("isDotcommand", true);
   watch.OnSpQuestion("checkSPComm", true);
+  watch.OnSpQuestion("isDotcommand", true);
   watch.OnDiscoverSPs(0);
   watch.OnDiscoverSPs(-256);
   watch.OnDiscoverSPs(3);
