@@ -43,6 +43,25 @@ bool SharePlace(const Question& one, const Question& other) {
   return one.identifier.compare(0, shared, other.identifier, 0, shared) == 0;
 }
 
+void NoteQuestion(OrloFacts& sp, bool isAnswered, QuestionKind kind,
+                  std::span<const unsigned char> identifier) {
+  sp.questions.Note(isAnswered);
+  if (isAnswered) {
+    return;
+  }
+  const auto kept = identifier.first(std::min(identifier.size(), kIdentifierKept));
+  Question question{kind, std::string(kept.begin(), kept.end())};
+  const auto known = std::ranges::find_if(sp.unanswered, [&question](const Unanswered& one) {
+    return SharePlace(one.question, question);
+  });
+  if (known != sp.unanswered.end()) {
+    ++known->times;
+    known->isSeveral |= known->question.identifier != question.identifier;
+  } else if (sp.unanswered.size() < kUnansweredKept) {
+    sp.unanswered.push_back({std::move(question), 1});
+  }
+}
+
 }  // namespace
 
 void CollectionWatch::AddTo(report::Collected& collected) const { AddFindings(fFacts, collected); }
@@ -140,25 +159,6 @@ void CollectionWatch::OnDotSend(const DotSend& send) {
     sp.sensors.at(*sensor).Note(isAnswered);
   } else {
     NoteQuestion(sp, isAnswered, QuestionKind::Command, send.identifier);
-  }
-}
-
-void CollectionWatch::NoteQuestion(OrloFacts& sp, bool isAnswered, QuestionKind kind,
-                                   std::span<const unsigned char> identifier) {
-  sp.questions.Note(isAnswered);
-  if (isAnswered) {
-    return;
-  }
-  const auto kept = identifier.first(std::min(identifier.size(), kIdentifierKept));
-  Question question{kind, std::string(kept.begin(), kept.end())};
-  const auto known = std::ranges::find_if(sp.unanswered, [&question](const Unanswered& one) {
-    return SharePlace(one.question, question);
-  });
-  if (known != sp.unanswered.end()) {
-    ++known->times;
-    known->isSeveral |= known->question.identifier != question.identifier;
-  } else if (sp.unanswered.size() < kUnansweredKept) {
-    sp.unanswered.push_back({std::move(question), 1});
   }
 }
 

@@ -39,8 +39,6 @@ class CollectionWatch : public platform::BoundaryObserver {
 
   void NoteKind(bool isThere);
   void NoteTavit(bool isReleased);
-  void NoteQuestion(OrloFacts& sp, bool isAnswered, QuestionKind kind,
-                    std::span<const unsigned char> identifier);
 
   Facts fFacts;
   Now fNow;

@@ -98,7 +98,7 @@ std::string CommandForPeople(std::span<const unsigned char> identifier) {
     return UnknownForPeople(identifier);
   }
   const std::string_view label = LabelOf(known->command->name);
-  const std::string name(label.empty() ? known->command->name : label);
+  std::string name(label.empty() ? known->command->name : label);
   if (!known->instance) {
     return name;
   }

@@ -13,7 +13,6 @@
 namespace strake::findings {
 namespace {
 
-using report::Finding;
 using report::FindingCode;
 using report::Severity;
 
