@@ -240,7 +240,8 @@ TEST_F(CommandTest, FindsAServiceProcessorThatDoesNotAnswerNoError) {
       Strake({"collect", "--server", silent, "--class", "VELKSG_SP_ComputerSystem"});
   EXPECT_EQ(outcome, (Outcome{0,
                               "silent (orlo)\n\nNo instances were collected.\n"
-                              "0 instances, 1 query, 0 service processors\n",
+                              "0 instances, 1 query, 0 service processors\n"
+                              "critical: could not communicate with the Orlo card\n",
                               "[0] Could not communicate with Orlo card.\n"}));
 }
 
