@@ -132,7 +132,10 @@ void WriteTable(const Report& report, const Layout& layout, const Sink& sink) {
     for (const ProcessorPart& part : parts) {
       WritePart(part, layout, out);
     }
-    WriteFindings(report.Findings(), out);
+    // With nothing between, they would be the first screen's once more.
+    if (!report.Instances().empty() || !report.Sensors().empty()) {
+      WriteFindings(report.Findings(), out);
+    }
     WriteSummary(report, parts, out);
   } else {
     WriteRowList(report, parts, out);

@@ -351,9 +351,6 @@ TEST(TableReport, ShowsFindingsWithoutAnyServiceProcessor) {
 Findings: 1 warning
   warning  no service processor
 
-Findings
-  warning  no service processor
-
 No instances were collected.
 0 instances, 1 query, 0 service processors
 )");
