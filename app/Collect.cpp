@@ -14,6 +14,7 @@
 #include "app/SharedFiles.h"
 #include "app/Trail.h"
 #include "cim/Catalogue.h"
+#include "findings/CollectionWatch.h"
 #include "os/CommandFolder.h"
 #include "os/OutputFile.h"
 #include "os/Terminal.h"
@@ -84,7 +85,8 @@ int Collect(const CollectOptions& options) {
   if (!options.quiet) {
     WarnOfUnknownClasses(queries);
   }
-  ForwardingObserver observers({trail.Observer(), progress.get()});
+  findings::CollectionWatch watch;
+  ForwardingObserver observers({trail.Observer(), progress.get(), &watch});
 
   report::Collected collected;
   collected.facts = {
@@ -107,6 +109,7 @@ int Collect(const CollectOptions& options) {
   }
 
   collected.instances = session.Namespace()->TakeCommitted();
+  watch.AddTo(collected);
   report::Select(collected, options.selection);
   const report::Report report(
       std::move(collected), options.showSecrets ? report::Secrets::Shown : report::Secrets::Masked,

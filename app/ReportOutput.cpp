@@ -14,7 +14,7 @@ namespace {
 void WriteToStandardOutput(const report::Report& report, const CollectOptions& options) {
   constexpr std::size_t kPiece = 65536;
   const report::Colour colour =
-      os::StandardOutputShowsColour() ? report::Colour::Headings : report::Colour::Never;
+      os::StandardOutputShowsColour() ? report::Colour::Terminal : report::Colour::Never;
   std::string pending;
   report::Layout layout{.colour = colour, .order = options.order, .header = options.header};
   if (const std::optional<std::size_t> columns = os::StandardOutputColumns()) {

@@ -3,7 +3,9 @@
 #include "report/Timestamp.h"
 #include "text/TextEscape.h"
 
+#include <cmath>
 #include <nlohmann/json.hpp>
+#include <optional>
 #include <string>
 
 namespace strake::report {
@@ -29,7 +31,7 @@ Json HeadOf(const CollectionFacts& facts) {
           {"server",
            {{"name", text::ToValidUtf8(facts.server.name)},
             {"description", text::ToValidUtf8(facts.server.description)},
-            {"kind", facts.server.kind}}}};
+            {"kind", text::ToValidUtf8(facts.server.kind)}}}};
 }
 
 Json InstanceOf(const cim::StoredInstance& instance) {
@@ -48,23 +50,32 @@ Json FindingOf(const Finding& finding) {
   if (finding.sp) {
     object["sp"] = *finding.sp;
   }
-  object["text"] = finding.text;
+  object["text"] = text::ToValidUtf8(finding.text);
   return object;
 }
 
 std::string Line(const Json& json) { return text::EscapeJson(json.dump()); }
+
+// JSON bounds no number, but a reader that keeps it as a double can refuse one
+// that is beyond all of them, and the whole report with it.
+bool FitsDouble(const Sensor& sensor) {
+  const std::optional<double> value = ReadingValue(sensor);
+  return value && std::isfinite(*value);
+}
 
 // An instance's object. The reading is put in as it is written: a number in
 // JSON has no last place that could get lost.
 std::string InstanceLine(const cim::StoredInstance& instance, const Report& report) {
   std::string line = Line(InstanceOf(instance));
   const Sensor* const sensor = report.FindSensor(instance);
-  if (sensor == nullptr || sensor->reading.empty()) {
+  if (sensor == nullptr) {
     return line;
   }
   line.back() = ',';
-  line += "\"reading\":" + sensor->reading;
-  line += ",\"unit\":" + Line(sensor->unit);
+  if (FitsDouble(*sensor)) {
+    line += "\"reading\":" + sensor->reading + ",";
+  }
+  line += "\"unit\":" + Line(sensor->unit);
   if (sensor->state) {
     line += ",\"state\":" + Line(StateName(*sensor->state));
   }

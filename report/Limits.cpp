@@ -3,7 +3,8 @@
 #include "text/Glob.h"
 #include "text/TextEscape.h"
 
-#include <string_view>
+#include <array>
+#include <cstddef>
 
 namespace strake::report {
 namespace {
@@ -13,32 +14,37 @@ bool Matches(const LimitRule& rule, const Sensor& sensor) {
          text::MatchesGlob(rule.sensor, sensor.name);
 }
 
-using BoundOf = std::optional<Bound> LimitRule::*;
-
-// Null when no rule states it.
-const Bound* FindBound(const Limits& limits, const Sensor& sensor, BoundOf bound) {
-  const Bound* found = nullptr;
-  for (const LimitRule& rule : limits) {
-    if (rule.*bound && Matches(rule, sensor)) {
-      found = &*(rule.*bound);
-    }
-  }
-  return found;
-}
-
 struct Check {
-  BoundOf bound;
+  std::optional<Bound> LimitRule::*bound;
   bool isLower;
   SensorState state;
 };
 
 // The graver ones first.
-constexpr Check kChecks[] = {
+constexpr std::array<Check, 4> kChecks{{
     {&LimitRule::lowerCritical, true, SensorState::Critical},
     {&LimitRule::upperCritical, false, SensorState::Critical},
     {&LimitRule::lowerWarning, true, SensorState::Warning},
     {&LimitRule::upperWarning, false, SensorState::Warning},
-};
+}};
+
+// In the order of the checks; null where no rule states one.
+using Bounds = std::array<const Bound*, kChecks.size()>;
+
+Bounds BoundsOf(const Sensor& sensor, const Limits& limits) {
+  Bounds bounds{};
+  for (const LimitRule& rule : limits) {
+    if (!Matches(rule, sensor)) {
+      continue;
+    }
+    for (std::size_t index = 0; index < kChecks.size(); ++index) {
+      if (const std::optional<Bound>& bound = rule.*kChecks.at(index).bound) {
+        bounds.at(index) = &*bound;
+      }
+    }
+  }
+  return bounds;
+}
 
 std::string TextOf(const Sensor& sensor, const Check& check, const Bound& bound) {
   std::string unit;
@@ -53,10 +59,14 @@ std::string TextOf(const Sensor& sensor, const Check& check, const Bound& bound)
 
 Judgement Judge(const Sensor& sensor, const Limits& limits) {
   const std::optional<double> reading = ReadingValue(sensor);
-  for (const Check& check : kChecks) {
-    const Bound* const bound = FindBound(limits, sensor, check.bound);
-    if (reading && bound != nullptr &&
-        (check.isLower ? *reading < bound->value : *reading > bound->value)) {
+  if (!reading) {
+    return {};
+  }
+  const Bounds bounds = BoundsOf(sensor, limits);
+  for (std::size_t index = 0; index < kChecks.size(); ++index) {
+    const Check& check = kChecks.at(index);
+    const Bound* const bound = bounds.at(index);
+    if (bound != nullptr && (check.isLower ? *reading < bound->value : *reading > bound->value)) {
       return {check.state, TextOf(sensor, check, *bound)};
     }
   }

@@ -44,7 +44,7 @@ struct Processor {
 
 // What a collection brought.
 struct Collected {
-  CollectionFacts facts;
+  CollectionFacts facts = {};
   std::vector<cim::StoredInstance> instances = {};  // in commit order
   std::vector<Processor> processors = {};           // by number
   std::vector<SilentSensor> silentSensors = {};     // in the order in which they were asked for

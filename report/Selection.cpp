@@ -38,7 +38,7 @@ bool IsSelected(const SilentSensor& silent, const Selection& selection) {
   if (selection.node && silent.sp != selection.node) {
     return false;
   }
-  if (selection.sensor && !text::MatchesGlob(*selection.sensor, silent.name)) {
+  if (selection.sensor && !text::MatchesGlob(*selection.sensor, SensorOf(silent).name)) {
     return false;
   }
   return std::ranges::all_of(selection.filters, [&silent](const PropertyFilter& filter) {
@@ -47,13 +47,20 @@ bool IsSelected(const SilentSensor& silent, const Selection& selection) {
   });
 }
 
-// A finding about silent sensors of which none is left says nothing of what is
-// shown.
+bool SelectsSensors(const Selection& selection) {
+  return selection.sensor || std::ranges::any_of(selection.filters, [](const auto& filter) {
+           return filter.schema->group == cim::QueryGroup::Sensors;
+         });
+}
+
+// Where sensors are selected, a finding about silent ones of which none is left
+// says nothing of what is shown.
 bool IsSelected(const Finding& finding, const Selection& selection, const Collected& collected) {
   if (selection.node && finding.sp && finding.sp != selection.node) {
     return false;
   }
   return finding.code != FindingCode::SensorUnanswered || !finding.sp ||
+         !SelectsSensors(selection) ||
          std::ranges::any_of(collected.silentSensors, [&finding](const SilentSensor& silent) {
            return silent.sp == finding.sp;
          });

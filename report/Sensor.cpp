@@ -8,6 +8,7 @@
 #include <array>
 #include <charconv>
 #include <limits>
+#include <memory>
 #include <system_error>
 
 namespace strake::report {
@@ -37,6 +38,13 @@ std::string NameOf(const cim::StoredInstance& sensor) {
     }
   }
   return "(no name)";
+}
+
+// Some of the service processors' names end with blanks, which nobody writes in
+// a pattern.
+std::string WithoutBlanksAtItsEnd(std::string name) {
+  name.erase(name.find_last_not_of(' ') + 1);
+  return name;
 }
 
 const Kind& At(SensorKind kind) { return kKinds.at(static_cast<std::size_t>(kind)); }
@@ -77,7 +85,7 @@ Sensor SensorOf(const cim::StoredInstance& instance) {
   Sensor sensor;
   sensor.instance = &instance;
   sensor.sp = SourceNode(instance);
-  sensor.name = NameOf(instance);
+  sensor.name = WithoutBlanksAtItsEnd(NameOf(instance));
   if (const auto* const units = cim::FindValueOf<std::uint16_t>(instance, "BaseUnits")) {
     sensor.unit = UnitText(*units);
     sensor.kind = KindOfUnit(*units);
@@ -92,14 +100,14 @@ Sensor SensorOf(const cim::StoredInstance& instance) {
 Sensor SensorOf(const SilentSensor& silent) {
   Sensor sensor;
   sensor.sp = silent.sp;
-  sensor.name = silent.name;
+  sensor.name = WithoutBlanksAtItsEnd(silent.name);
   sensor.kind = silent.kind;
   return sensor;
 }
 
 std::optional<double> ReadingValue(const Sensor& sensor) {
   double value = 0;
-  const char* const end = sensor.reading.data() + sensor.reading.size();
+  const char* const end = std::to_address(sensor.reading.end());
   const auto [stop, error] = std::from_chars(sensor.reading.data(), end, value);
   if (sensor.reading.empty() || stop != end) {
     return std::nullopt;
@@ -113,6 +121,9 @@ std::optional<double> ReadingValue(const Sensor& sensor) {
 }
 
 std::string ReadingForPeople(const Sensor& sensor) {
+  if (sensor.instance == nullptr) {
+    return "no answer";
+  }
   return sensor.reading.empty() ? "no reading" : sensor.reading;
 }
 

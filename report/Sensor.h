@@ -30,7 +30,7 @@ std::string_view StateName(SensorState state);
 struct Sensor {
   const cim::StoredInstance* instance = nullptr;  // null: the sensor did not answer
   std::optional<int> sp;                          // from 1
-  std::string name;                               // of the SP's: not safe to show
+  std::string name;  // without blanks at its end; of the SP's: not safe to show
   SensorKind kind = SensorKind::Other;
   // A decimal number, exact: "5.00"; empty when there is none. With a modifier
   // that nobody would write out it has an exponent.
@@ -57,8 +57,8 @@ Sensor SensorOf(const SilentSensor& silent);
 // The reading's value, for comparison and drawing; empty without a reading.
 std::optional<double> ReadingValue(const Sensor& sensor);
 
-// Both safe to show: "no reading" when there is none; of a unit without a sign
-// "unit 7".
+// Both safe to show: "no answer" of a sensor that gave none, "no reading" when
+// there is none in it; of a unit without a sign "unit 7".
 std::string ReadingForPeople(const Sensor& sensor);
 std::string UnitForPeople(const Sensor& sensor);
 

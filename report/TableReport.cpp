@@ -1,196 +1,146 @@
 #include "report/TableReport.h"
 
+#include "report/FindingTable.h"
+#include "report/FirstScreen.h"
 #include "report/InstanceText.h"
+#include "report/ProcessorParts.h"
+#include "report/RowList.h"
+#include "report/SensorTable.h"
+#include "report/TableText.h"
 #include "text/TextEscape.h"
-#include "text/Utf8.h"
 
 #include <algorithm>
 
 namespace strake::report {
 namespace {
 
-constexpr std::string_view kGap = "  ";
-constexpr std::string_view kTitleIndent = "  ";
-constexpr std::string_view kRowIndent = "    ";
+constexpr std::size_t kTitleIndent = 2;
+constexpr std::size_t kRowIndent = 4;
+// Of more service processors the silent sensors are told in one line.
+constexpr std::size_t kMostSilentLines = 16;
 
-std::string Counted(std::size_t count, const std::string& one, const std::string& many) {
-  return std::to_string(count) + " " + (count == 1 ? one : many);
+using Parts = std::vector<ProcessorPart>;
+
+void WriteServer(const ServerFacts& server, TableText& out) {
+  std::string text = text::EscapeForPeople(server.name) + " (" + server.kind + ")";
+  if (!server.description.empty()) {
+    text += ": " + text::EscapeForPeople(server.description);
+  }
+  out.Line(0, text, Shade::Heading);
 }
 
-// Where an instance stands in the report.
-struct Place {
-  std::optional<int> node;  // no node stands before all others
-  std::size_t classRank = 0;
-  const cim::StoredInstance* instance = nullptr;
-};
-
-std::size_t ClassRank(const cim::SchemaClass& schema) {
-  const auto classes = cim::SchemaClasses();
-  const auto found = std::ranges::find(classes, schema.name, &cim::SchemaClass::name);
-  return static_cast<std::size_t>(found - classes.begin());
+void WriteBlocks(std::span<const cim::StoredInstance* const> instances, TableText& out) {
+  for (const cim::StoredInstance* const instance : instances) {
+    out.Blank();
+    out.Line(kTitleIndent, InstanceTitle(*instance), Shade::Heading);
+    std::vector<Cells> rows;
+    for (Row& row : InstanceRows(*instance)) {
+      rows.push_back({{std::move(row.label)}, {std::move(row.value)}});
+    }
+    out.Rows(kRowIndent, rows, Columns(2));
+  }
 }
 
-std::vector<Place> Arrange(std::span<const cim::StoredInstance> instances) {
-  std::vector<Place> places;
-  places.reserve(instances.size());
-  for (const cim::StoredInstance& instance : instances) {
-    places.push_back({SourceNode(instance), ClassRank(*instance.schema), &instance});
+void WritePart(const ProcessorPart& part, const Layout& layout, TableText& out) {
+  if (part.answered && part.instances.empty() && part.sensors.empty()) {
+    return;
   }
-  std::stable_sort(places.begin(), places.end(), [](const Place& one, const Place& other) {
-    return one.node != other.node ? one.node < other.node : one.classRank < other.classRank;
-  });
-  return places;
+  out.Blank();
+  out.Line(
+      0, part.number ? "Service processor " + std::to_string(*part.number) : "No service processor",
+      Shade::Heading);
+  if (!part.answered) {
+    out.Blank();
+    out.Line(kTitleIndent, "did not answer", Shade::Warning);
+  }
+  WriteBlocks(part.ComputerSystems(), out);
+  if (!part.sensors.empty()) {
+    out.Blank();
+    WriteSensorTable(part.sensors, layout.columns, out);
+  }
+  WriteBlocks(part.OtherInstances(), out);
 }
 
-class TableWriter {
- public:
-  TableWriter(const Report& report, const Layout& layout, const Sink& sink)
-      : fReport(&report), fLayout(layout), fSink(&sink) {}
+void WriteFindings(std::span<const Finding> findings, TableText& out) {
+  if (!findings.empty()) {
+    out.Blank();
+    out.Line(0, "Findings", Shade::Heading);
+    WriteFindingRows(findings, out);
+  }
+}
 
-  void Write() {
-    WriteServer();
-    const std::vector<Place> places = Arrange(fReport->Instances());
-    const std::span<const Place> all(places);
-    for (std::size_t index = 0; index < all.size();) {
-      const std::size_t end = EndOfGroup(all, index);
-      WriteGroup(all.subspan(index, end - index));
-      index = end;
-      Flush();
+std::size_t CountSilent(const ProcessorPart& part) {
+  return static_cast<std::size_t>(std::ranges::count(
+      part.sensors, static_cast<const cim::StoredInstance*>(nullptr), &Sensor::instance));
+}
+
+// "2 of 42 sensors on SP 1 did not answer".
+void WriteSilentSensors(const Parts& parts, TableText& out) {
+  const auto write = [&out](std::size_t silent, std::size_t all, const std::string& where) {
+    out.Line(0,
+             std::to_string(silent) + " of " + Counted(all, "sensor", "sensors") + " on " + where +
+                 " did not answer",
+             Shade::Warning);
+  };
+  std::size_t processors = 0;
+  std::size_t restSilent = 0;
+  std::size_t restAll = 0;
+  for (const ProcessorPart& part : parts) {
+    const std::size_t silent = CountSilent(part);
+    if (silent == 0) {
+      continue;
     }
-    WriteSummary();
-    Flush();
-  }
-
- private:
-  static std::size_t EndOfGroup(std::span<const Place> places, std::size_t begin) {
-    std::size_t end = begin;
-    while (end < places.size() && places[end].node == places[begin].node) {
-      ++end;
-    }
-    return end;
-  }
-
-  void WriteHeading(std::string_view indent, const std::string& text) {
-    fOut += indent;
-    fOut += fLayout.colour == Colour::Headings ? "\x1b[1m" + text + "\x1b[0m" : text;
-    fOut += '\n';
-  }
-
-  void WriteServer() {
-    const ServerFacts& server = fReport->Facts().server;
-    std::string text = text::EscapeForPeople(server.name) + " (" + server.kind + ")";
-    if (!server.description.empty()) {
-      text += ": " + text::EscapeForPeople(server.description);
-    }
-    WriteHeading("", text);
-  }
-
-  void WriteGroup(std::span<const Place> group) {
-    fOut += '\n';
-    if (group.front().node) {
-      ++fServiceProcessors;
-      WriteHeading("", "Service processor " + std::to_string(*group.front().node));
+    if (++processors <= kMostSilentLines) {
+      write(silent, part.sensors.size(), ProcessorLabel(part.number, "no SP"));
     } else {
-      WriteHeading("", "No service processor");
-    }
-    const auto isSensor = [](const Place& place) { return IsSensor(*place.instance); };
-    const auto sensors = std::find_if(group.begin(), group.end(), isSensor);
-    const auto rest = std::find_if_not(sensors, group.end(), isSensor);
-    WriteBlocks({group.begin(), sensors});
-    if (sensors != rest) {
-      WriteSensors({sensors, rest});
-    }
-    WriteBlocks({rest, group.end()});
-  }
-
-  void WriteBlocks(std::span<const Place> places) {
-    for (const Place& place : places) {
-      WriteBlock(*place.instance);
+      restSilent += silent;
+      restAll += part.sensors.size();
     }
   }
-
-  void WriteBlock(const cim::StoredInstance& instance) {
-    fOut += '\n';
-    WriteHeading(kTitleIndent, InstanceTitle(instance));
-    const std::vector<Row> rows = InstanceRows(instance);
-    std::size_t width = 0;
-    for (const Row& row : rows) {
-      width = std::max(width, text::CountCodePoints(row.label));
-    }
-    for (const Row& row : rows) {
-      fOut += kRowIndent;
-      fOut += row.label;
-      if (!row.value.empty()) {
-        Pad(width - text::CountCodePoints(row.label));
-        fOut += kGap;
-        fOut += row.value;
-      }
-      fOut += '\n';
-    }
+  if (restSilent > 0) {
+    write(restSilent, restAll,
+          Counted(processors - kMostSilentLines, "further service processor",
+                  "further service processors"));
   }
+}
 
-  void WriteSensors(std::span<const Place> sensors) {
-    fOut += '\n';
-    WriteHeading(kTitleIndent, InstanceTitle(*sensors.front().instance));
-    struct SensorRow {
-      std::string name;
-      std::string reading;
-      std::string unit;
-    };
-    std::vector<SensorRow> rows;
-    rows.reserve(sensors.size());
-    std::size_t nameWidth = 0;
-    std::size_t readingWidth = 0;
-    for (const Place& place : sensors) {
-      const Sensor& sensor = *fReport->FindSensor(*place.instance);
-      rows.push_back(
-          {text::EscapeForPeople(sensor.name), ReadingForPeople(sensor), UnitForPeople(sensor)});
-      nameWidth = std::max(nameWidth, text::CountCodePoints(rows.back().name));
-      readingWidth = std::max(readingWidth, text::CountCodePoints(rows.back().reading));
-    }
-    for (const SensorRow& row : rows) {
-      fOut += kRowIndent;
-      fOut += row.name;
-      Pad(nameWidth - text::CountCodePoints(row.name));
-      fOut += kGap;
-      Pad(readingWidth - text::CountCodePoints(row.reading));
-      fOut += row.reading;
-      fOut += row.unit.empty() ? "" : " " + row.unit;
-      fOut += '\n';
-    }
+void WriteSummary(const Report& report, const Parts& parts, TableText& out) {
+  const auto processors = static_cast<std::size_t>(std::ranges::count_if(
+      parts, [](const ProcessorPart& part) { return part.number.has_value(); }));
+  const auto silent = std::ranges::count(parts, false, &ProcessorPart::answered);
+  const std::string all = Counted(processors, "service processor", "service processors");
+  out.Blank();
+  if (report.Instances().empty()) {
+    out.Line(0, "No instances were collected.");
   }
-
-  void WriteSummary() {
-    fOut += '\n';
-    if (fReport->Instances().empty()) {
-      fOut += "No instances were collected.\n";
-    }
-    fOut += Counted(fReport->Instances().size(), "instance", "instances") + ", " +
-            Counted(fReport->Facts().queries, "query", "queries") + ", " +
-            Counted(fServiceProcessors, "service processor", "service processors") + "\n";
-    for (const Finding& finding : fReport->Findings()) {
-      fOut += std::string(SeverityName(finding.severity)) + ": " + finding.text + "\n";
-    }
+  if (silent > 0) {
+    out.Line(0, std::to_string(silent) + " of " + all + " did not answer", Shade::Warning);
   }
-
-  void Flush() {
-    (*fSink)(fOut);
-    fOut.clear();
-  }
-
-  void Pad(std::size_t count) { fOut.append(count, ' '); }
-
-  const Report* fReport;
-  Layout fLayout;
-  const Sink* fSink;
-  std::size_t fServiceProcessors = 0;
-  std::string fOut;
-};
+  WriteSilentSensors(parts, out);
+  out.Line(0, Counted(report.Instances().size(), "instance", "instances") + ", " +
+                  Counted(report.Facts().queries, "query", "queries") + ", " + all);
+}
 
 }  // namespace
 
 void WriteTable(const Report& report, const Layout& layout, const Sink& sink) {
-  TableWriter(report, layout, sink).Write();
+  TableText out(layout.colour, sink);
+  const Parts parts = PartsOf(report, layout.order);
+  if (layout.header) {
+    WriteServer(report.Facts().server, out);
+    WriteFirstScreen(report, parts, out);
+    for (const ProcessorPart& part : parts) {
+      WritePart(part, layout, out);
+    }
+    // With nothing between, they would be the first screen's once more.
+    if (!report.Instances().empty() || !report.Sensors().empty()) {
+      WriteFindings(report.Findings(), out);
+    }
+    WriteSummary(report, parts, out);
+  } else {
+    WriteRowList(report, parts, out);
+  }
+  out.Flush();
 }
 
 }  // namespace strake::report

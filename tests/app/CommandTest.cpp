@@ -1,4 +1,5 @@
 // The command from outside: what it prints and how it ends.
+#include "report/Formats.h"
 #include "report/Timestamp.h"
 #include "tests/app/Command.h"
 #include "tests/support/TemporaryFolder.h"
@@ -20,6 +21,10 @@ const std::string kServer = R"({"format": "strake-server/1", "description": "One
      {"data": "01"}]}}}]}})";
 
 const std::string kSystemTable = R"(rack7.server.json (orlo): One card
+
+SP 1  answered  2010-06-15 13:45:30 UTC-02:00
+
+Findings: none
 
 Service processor 1
 
@@ -123,8 +128,8 @@ TEST_F(CommandTest, AsksForClassesInTheSystemsOrderAndForListsInTheirs) {
 TEST_F(CommandTest, ReportsThatAQueryForNothingBroughtNothing) {
   EXPECT_EQ(CollectJson({"--query", ""}), (Outcome{0, kNoInstancesJson, ""}));
   EXPECT_EQ(Collect({"--query", ""}).out,
-            "rack7.server.json (orlo): One card\n\nNo instances were collected.\n"
-            "0 instances, 1 query, 0 service processors\n");
+            "rack7.server.json (orlo): One card\n\nSP 1  answered\n\nFindings: none\n\n"
+            "No instances were collected.\n0 instances, 1 query, 1 service processor\n");
 }
 
 TEST_F(CommandTest, WarnsOfEqualKeysBesideTheReport) {
@@ -136,8 +141,9 @@ TEST_F(CommandTest, WarnsOfEqualKeysBesideTheReport) {
   const Outcome table = Collect(twice);
   EXPECT_EQ(table.status, 0);
   EXPECT_EQ(table.err, "");
-  EXPECT_EQ(table.out.substr(table.out.find("2 instances, ")),
-            "2 instances, 2 queries, 1 service processor\nwarning: " + warning);
+  EXPECT_EQ(
+      table.out.substr(table.out.find("\nFindings\n")),
+      "\nFindings\n  warning  " + warning + "\n2 instances, 2 queries, 1 service processor\n");
   const Outcome json = Collect({twice[0], twice[1], twice[2], twice[3], "--format", "json"});
   EXPECT_EQ(json.status, 0);
   EXPECT_EQ(json.err, "");
@@ -201,8 +207,9 @@ TEST_F(CommandTest, ColoursHeadingsOnATerminalOnly) {
   const std::vector<std::string> words = {"collect", "--server", fServer, "--class",
                                           "VELKSG_SP_ComputerSystem"};
   std::string coloured = kSystemTable;
-  for (const std::string heading : {"rack7.server.json (orlo): One card", "Service processor 1",
-                                    "Computer system (VELKSG_SP_ComputerSystem)"}) {
+  for (const std::string heading :
+       {"rack7.server.json (orlo): One card", "SP 1", "Findings: none", "Service processor 1",
+        "Computer system (VELKSG_SP_ComputerSystem)"}) {
     coloured.replace(coloured.find(heading), heading.size(), "\x1b[1m" + heading + "\x1b[0m");
   }
   EXPECT_EQ(Command(words).Environment("TERM=xterm").RunOnTerminal(), (Outcome{0, coloured, ""}));
@@ -233,9 +240,67 @@ TEST_F(CommandTest, FindsAServiceProcessorThatDoesNotAnswerNoError) {
   const Outcome outcome =
       Strake({"collect", "--server", silent, "--class", "VELKSG_SP_ComputerSystem"});
   EXPECT_EQ(outcome, (Outcome{0,
-                              "silent (orlo)\n\nNo instances were collected.\n"
+                              "silent (orlo)\n\nFindings: 1 critical\n"
+                              "  critical  could not communicate with the Orlo card\n\n"
+                              "No instances were collected.\n"
                               "0 instances, 1 query, 0 service processors\n",
                               "[0] Could not communicate with Orlo card.\n"}));
+}
+
+TEST_F(CommandTest, EndsWithThreeWhenAFindingIsAsGraveAsItIsToldToFailOn) {
+  const std::string silent = fFolder.Write(
+      "silent", R"({"format": "strake-server/1", "sp": {"kind": "orlo", "communicates": false}})");
+  const std::string hot = fFolder.Write("hot.toml", "[[limit]]\nupper_warning = -1000\n");
+  const struct {
+    std::vector<std::string> words;
+    int status;
+  } cases[] = {
+      {{"--server", silent}, 0},
+      {{"--server", silent, "--fail-on", "warning"}, 3},
+      {{"--server", silent, "--fail-on", "critical"}, 3},
+      {{"--sensor", "12 Voltage", "--demo", "demo-tavit", "--fail-on", "warning"}, 0},
+      {{"--sensor", "12 Voltage", "--demo", "demo-tavit", "--limits", hot}, 0},
+      {{"--sensor", "12 Voltage", "--demo", "demo-tavit", "--limits", hot, "--fail-on", "warning"},
+       3},
+      {{"--sensor", "12 Voltage", "--demo", "demo-tavit", "--limits", hot, "--fail-on", "critical"},
+       0},
+  };
+  for (const auto& one : cases) {
+    std::vector<std::string> words = {"collect", "--output", fFolder / "report", "--quiet"};
+    words.insert(words.end(), one.words.begin(), one.words.end());
+    EXPECT_EQ(Strake(words).status, one.status) << testing::PrintToString(one.words);
+    // It is written all the same.
+    EXPECT_NE(ReadFile(fFolder / "report"), "");
+  }
+}
+
+TEST_F(CommandTest, SelectsAndJudgesBeforeItReports) {
+  const std::string limits =
+      fFolder.Write("limits.toml", "[[limit]]\nsensor = \"fan 1\"\nlower_critical = 4000.5\n");
+  EXPECT_EQ(Strake({"collect", "--demo", "demo-tavit", "--sensor", "fan ?", "--filter",
+                    "sensors.CurrentReading=4*", "--limits", limits, "--no-header"}),
+            (Outcome{0,
+                     "SP 1  fan  Fan 1  4000 RPM  critical\n"
+                     "SP 1  fan  Fan 2  4050 RPM  ok\nSP 1  fan  Fan 4  4020 RPM  ok\n"
+                     "SP 1  finding  critical  Fan 1 is 4000 RPM, below 4000.5 RPM\n",
+                     ""}));
+}
+
+TEST_F(CommandTest, TellsFindingsOnStandardErrorWhereTheFormatHasNoPlaceForThem) {
+  const std::vector<std::string> words = {"collect", "--sensor", "Fan 16*",
+                                          "--node",  "1",        "--format"};
+  for (const report::Format& format : report::Formats()) {
+    std::vector<std::string> all = words;
+    all.emplace_back(format.name);
+    const std::string expected =
+        format.findings == report::FindingsGo::InReport
+            ? ""
+            : "strake: warning: 5 of 42 sensors on SP 1 did not answer: Planar Voltage -5v, CPU 3 "
+              "temperature, CPU 4 temperature, DASD Sensor 2 Temperature, Fan 16 speed\n";
+    EXPECT_EQ(Strake(all).err, expected) << format.name;
+    all.emplace_back("--quiet");
+    EXPECT_EQ(Strake(all).err, "") << format.name;
+  }
 }
 
 TEST_F(CommandTest, ReadsAServerFromStandardInput) {

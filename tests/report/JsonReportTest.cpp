@@ -3,8 +3,13 @@
 #include "tests/report/Instances.h"
 #include "text/TextEscape.h"
 
+#include <algorithm>
+#include <array>
+#include <cmath>
 #include <gtest/gtest.h>
+#include <limits>
 #include <nlohmann/json.hpp>
+#include <optional>
 #include <random>
 
 namespace strake::tests {
@@ -14,13 +19,15 @@ using nlohmann::ordered_json;
 
 std::string JsonOf(const report::Report& report) { return Written(report::WriteJson, report); }
 
-std::string WithInstances(const std::string& lines) {
+std::string With(const std::string& findings, const std::string& instances) {
   return "{\n  \"format\": \"strake-report/1\",\n  \"strake\": \"1.2.3\",\n"
          "  \"collected_at\": \"2024-03-18T09:41:07Z\",\n"
          "  \"server\": {\"name\":\"rack7\",\"description\":\"\",\"kind\":\"orlo\"},\n"
-         "  \"instances\": [" +
-         lines + "]\n}\n";
+         "  \"findings\": [" +
+         findings + "],\n  \"instances\": [" + instances + "]\n}\n";
 }
+
+std::string WithInstances(const std::string& lines) { return With("", lines); }
 
 // What a program reads of a report of one text.
 std::string ReadBack(const std::string& text) {
@@ -44,7 +51,7 @@ TEST(JsonReport, KeepsCommitOrderPropertyOrderAndTypes) {
                           "{\"CreationClassName\":\"VELKSG_SP_NumericSensor\",\"SourceNode\":2,"
                           "\"DeviceID\":\"Fan-Node2\",\"SensorDescription\":\"Fan\","
                           "\"CurrentReading\":-3,\"BaseUnits\":65,"
-                          "\"UnitModifier\":-2}},"
+                          "\"UnitModifier\":-2},\"reading\":-0.03,\"unit\":\"%\"},"
                           "\n    {\"class\":\"VELKSG_SP_ComputerSystem\",\"properties\":"
                           "{\"SourceNode\":255,\"Name\":\"SRV1:Node0\","
                           "\"SPClock\":\"20100615134530.000000-120\"}}\n  "));
@@ -167,8 +174,25 @@ std::vector<cim::StoredInstance> RandomInstances(std::mt19937& random) {
   return instances;
 }
 
+// Beside the class and the properties; the reading as a double keeps it.
+void ExpectSameSensor(const ordered_json& read, const report::Sensor* sensor) {
+  if (sensor == nullptr) {
+    EXPECT_EQ(read.size(), 2U);
+    return;
+  }
+  const std::optional<double> reading = report::ReadingValue(*sensor);
+  const bool hasReading = reading && std::isfinite(*reading);
+  EXPECT_EQ(read.size(), 3U + (hasReading ? 1U : 0U) + (sensor->state ? 1U : 0U));
+  EXPECT_EQ(read.at("unit"), sensor->unit);
+  if (hasReading) {
+    EXPECT_EQ(read.at("reading").get<double>(), *reading);
+  }
+  if (sensor->state) {
+    EXPECT_EQ(read.at("state"), report::StateName(*sensor->state));
+  }
+}
+
 void ExpectSame(const ordered_json& read, const cim::StoredInstance& instance) {
-  EXPECT_EQ(read.size(), 2U);
   EXPECT_EQ(read.at("class"), instance.schema->name);
   ASSERT_EQ(read.at("properties").size(), instance.properties.size());
   auto property = instance.properties.begin();
@@ -186,18 +210,163 @@ void ExpectSame(const ordered_json& read, const cim::StoredInstance& instance) {
   }
 }
 
+void ExpectSame(const ordered_json& read, const report::Finding& finding) {
+  EXPECT_EQ(read.at("severity"), report::SeverityName(finding.severity));
+  EXPECT_EQ(read.at("code"), report::CodeName(finding.code));
+  EXPECT_EQ(read.at("text"), text::ToValidUtf8(finding.text));
+  EXPECT_EQ(read.value("sp", 0), finding.sp.value_or(0));
+  EXPECT_EQ(read.size(), finding.sp ? 4U : 3U);
+}
+
+std::vector<report::Finding> RandomFindings(std::mt19937& random) {
+  std::vector<report::Finding> findings(random() % 4);
+  for (report::Finding& finding : findings) {
+    finding.severity = static_cast<report::Severity>(random() % 3);
+    finding.code = static_cast<report::FindingCode>(random() % report::kFindingCodes);
+    if (random() % 2 == 0) {
+      finding.sp = static_cast<int>(1 + random() % 254);
+    }
+    finding.text = RandomText(random);
+  }
+  return findings;
+}
+
+// Sensors that measure something, beside those of which anything can be set.
+cim::StoredInstance RandomSensor(std::mt19937& random) {
+  constexpr std::array<std::uint16_t, 5> kUnits{2, 5, 19, 65, 20};
+  const int modifier =
+      random() % 8 == 0 ? static_cast<int>(random()) : static_cast<int>(random() % 60) - 30;
+  return Sensor(static_cast<std::uint8_t>(random()), RandomText(random),
+                static_cast<int>(random() % 20001) - 10000, kUnits.at(random() % 5), modifier);
+}
+
+std::optional<report::Limits> RandomLimits(std::mt19937& random) {
+  if (random() % 2 == 0) {
+    return std::nullopt;
+  }
+  const int bound = static_cast<int>(random() % 200) - 100;
+  const report::Bound low{static_cast<double>(bound), std::to_string(bound)};
+  const report::Bound high{bound + 50.5, std::to_string(bound + 50) + ".5"};
+  return report::Limits{{.lowerCritical = low, .upperWarning = high}};
+}
+
 TEST(JsonReport, HoldsEverythingOfAThousandRandomCollections) {
   std::mt19937 random(20240318);
+  std::array<int, 3> states{};
   for (int round = 0; round < 1000; ++round) {
-    const auto instances = RandomInstances(random);
-    const std::string json = JsonOf(ReportOf(instances, SomeFacts(), report::Secrets::Shown));
-    const auto read = ordered_json::parse(json).at("instances");
-    ASSERT_EQ(read.size(), instances.size());
+    auto instances = RandomInstances(random);
+    for (std::size_t count = random() % 4; count > 0; --count) {
+      instances.push_back(RandomSensor(random));
+    }
+    const report::Report report({.facts = SomeFacts(),
+                                 .instances = instances,
+                                 .silentSensors = {{1, RandomText(random)}},
+                                 .findings = RandomFindings(random)},
+                                report::Secrets::Shown, RandomLimits(random));
+    const auto read = ordered_json::parse(JsonOf(report));
+    ASSERT_EQ(read.at("findings").size(), report.Findings().size());
+    for (std::size_t i = 0; i < report.Findings().size(); ++i) {
+      ExpectSame(read.at("findings")[i], report.Findings()[i]);
+    }
+    ASSERT_EQ(read.at("instances").size(), instances.size());
     for (std::size_t i = 0; i < instances.size(); ++i) {
-      ExpectSame(read[i], instances[i]);
+      ExpectSame(read.at("instances")[i], instances[i]);
+      const report::Sensor* const sensor = report.FindSensor(report.Instances()[i]);
+      ExpectSameSensor(read.at("instances")[i], sensor);
+      if (sensor != nullptr && sensor->state) {
+        ++states.at(static_cast<std::size_t>(*sensor->state));
+      }
     }
     ASSERT_FALSE(HasFailure()) << "round " << round;
   }
+  EXPECT_GT(*std::ranges::min_element(states), 100);
+}
+
+TEST(JsonReport, WritesEveryDigitOfAReadingAndLeavesOutWhatNoDoubleHolds) {
+  constexpr std::int32_t kHighest = std::numeric_limits<std::int32_t>::max();
+  constexpr std::int32_t kLowest = std::numeric_limits<std::int32_t>::min();
+  const struct {
+    std::int32_t reading;
+    std::int32_t modifier;
+    std::string written;
+  } cases[] = {
+      {500, -2, "\"reading\":5.00,"},
+      {-5, -2, "\"reading\":-0.05,"},
+      {0, -2, "\"reading\":0.00,"},
+      {4000, 0, "\"reading\":4000,"},
+      {4, 3, "\"reading\":4000,"},
+      {kHighest, -18, "\"reading\":0.000000002147483647,"},
+      {kLowest, 18, "\"reading\":-2147483648000000000000000000,"},
+      {7, 19, "\"reading\":7e19,"},
+      {-7, -19, "\"reading\":-7e-19,"},
+      {7, kLowest, "\"reading\":7e-2147483648,"},
+      {0, kHighest, "\"reading\":0e2147483647,"},
+      {1, 308, "\"reading\":1e308,"},
+      {1, 309, ""},
+      {7, kHighest, ""},
+      {-7, kHighest, ""},
+  };
+  for (const auto& one : cases) {
+    const std::string json = JsonOf(ReportOf({Sensor(1, "S", one.reading, 5, one.modifier)}));
+    EXPECT_NE(json.find("\"UnitModifier\":" + std::to_string(one.modifier) + "}," + one.written +
+                        "\"unit\":\"V\"}"),
+              std::string::npos)
+        << json;
+    EXPECT_TRUE(ordered_json::accept(json)) << json;
+  }
+}
+
+TEST(JsonReport, HasAUnitOfEverySensorAndAReadingOfThoseThatHaveOne) {
+  const struct {
+    Properties properties;
+    std::string written;
+  } cases[] = {
+      {{}, R"({},"unit":"")"},
+      {{{"BaseUnits", Units(2)}}, R"({"BaseUnits":2},"unit":"°C")"},
+      {{{"CurrentReading", 7}}, R"({"CurrentReading":7},"reading":7,"unit":"")"},
+      {{{"CurrentReading", 7}, {"BaseUnits", Units(20)}},
+       R"({"CurrentReading":7,"BaseUnits":20},"reading":7,"unit":"20")"},
+  };
+  for (const auto& one : cases) {
+    EXPECT_EQ(JsonOf(ReportOf({Instance("VELKSG_SP_NumericSensor", one.properties)})),
+              WithInstances("\n    {\"class\":\"VELKSG_SP_NumericSensor\",\"properties\":" +
+                            one.written + "}\n  "));
+  }
+}
+
+TEST(JsonReport, HasAStateOfEverySensorWithAReadingWhereLimitsWereGiven) {
+  const report::Limits limits = {
+      {.lowerWarning = report::Bound{5, "5"}, .upperCritical = report::Bound{9, "9.0"}}};
+  const report::Report report(
+      {.facts = SomeFacts(),
+       .instances = {Sensor(1, "A", 5, 65, 0), Sensor(2, "B\"", 4, 65, 0),
+                     Sensor(1, "C", 10, 65, 0),
+                     Instance("VELKSG_SP_NumericSensor", {{"DeviceID", "D"}})},
+       .silentSensors = {{1, "E", report::SensorKind::Fan}}},
+      report::Secrets::Masked, limits);
+  const auto read = ordered_json::parse(JsonOf(report));
+  std::vector<std::string> states;
+  for (const auto& instance : read.at("instances")) {
+    states.push_back(instance.value("state", "none"));
+  }
+  EXPECT_EQ(states, (std::vector<std::string>{"ok", "warning", "critical", "none"}));
+  EXPECT_EQ(read.at("findings").dump(),
+            R"([{"severity":"critical","code":"limit","sp":1,"text":"C is 10 %, above 9.0 %"},)"
+            R"({"severity":"warning","code":"limit","sp":2,"text":"B\" is 4 %, below 5 %"}])");
+}
+
+TEST(JsonReport, WritesFindingsALineEachAndTheirTextsLikeAllOthers) {
+  const report::Report report(
+      {.facts = SomeFacts(),
+       .findings = {{report::Severity::Info, report::FindingCode::NoSp, {}, "none"},
+                    {report::Severity::Critical, report::FindingCode::SpSilent, 2,
+                     "\"\\\xFF\xC2\x9B\xE2\x80\xAE"}}},
+      report::Secrets::Masked);
+  EXPECT_EQ(JsonOf(report),
+            With("\n    {\"severity\":\"critical\",\"code\":\"sp-silent\",\"sp\":2,"
+                 "\"text\":\"\\\"\\\\\\\\xFF\\u009B\\u202E\"},"
+                 "\n    {\"severity\":\"info\",\"code\":\"no-sp\",\"text\":\"none\"}\n  ",
+                 ""));
 }
 
 }  // namespace

@@ -83,6 +83,24 @@ TEST(Selection, LeavesSensorsByTheirNamesAndOtherClassesAlone) {
   EXPECT_EQ(Left({.sensor = ""}), "a b system | 1 2 | | 4.4.1 held");
 }
 
+TEST(Selection, KnowsNamesWithoutTheBlanksAtTheirEnd) {
+  const Collected collected{.facts = SomeFacts(),
+                            .instances = {Sensor(1, "Fan 1 ", 1, 65, 0)},
+                            .silentSensors = {{1, "Fan 2 ", SensorKind::Fan}}};
+  EXPECT_EQ(Left({.sensor = "Fan ?"}, collected), "Fan 1  | | Fan 2  |");
+  EXPECT_EQ(Left({.sensor = "Fan ? "}, collected), "| | |");
+}
+
+// A sensor that answered at another time is none of the silent ones.
+TEST(Selection, LeavesAFindingOfSensorsUnlessTheyAreSelected) {
+  Collected collected = TwoNodes();
+  collected.silentSensors.clear();
+  const auto network = Filter("VELKSG_ServProc_IPProtocolEndpoint", "HostName", "*");
+  EXPECT_EQ(Left({}, collected), "a Fan 1 b Fan 2 system | 1 2 | | Fan 3 CPU Vtt 4.4.1 held");
+  EXPECT_EQ(Left({.node = 1, .filters = {network}}, collected), "a Fan 1 | 1 | | Fan 3 held");
+  EXPECT_EQ(Left({.sensor = "*"}, collected), "a Fan 1 b Fan 2 system | 1 2 | | 4.4.1 held");
+}
+
 TEST(Selection, LeavesTheInstancesOfAClassWhosePropertyFits) {
   const auto network = Filter("VELKSG_ServProc_IPProtocolEndpoint", "HostName", "A");
   EXPECT_EQ(Left({.filters = {network}}),
