@@ -18,6 +18,7 @@ constexpr const char* kExamples = R"(Examples:
   strake collect --format json --output report.json --trace run.trace
   strake check rack7.server.json        is this server description fine?
   strake diff yesterday.json today.json what changed?
+  strake replay run.trace --scrub       a server description out of a trace
 
 'strake help collect' and 'strake help check' say more.)";
 
@@ -60,6 +61,20 @@ Examples:
 
 Exit status: 0 no differences, 1 there are some, 2 wrong usage or a report that is
 refused.)";
+
+constexpr const char* kReplayExamples =
+    R"(Makes a server description whose own trace, collected with the same queries, is
+the same line for line, but for the addresses in status lines. Its "capture" says
+which command that is. What a description cannot say is warned of.
+
+Examples:
+  strake replay run.trace --output field.server.json
+  strake replay run.trace --scrub --output field.server.json
+
+Exit status: 0 the description is written, 1 it cannot be, 2 wrong usage or a trace
+that is refused.
+A description holds what the service processors said, passwords included; without
+--scrub it is created with mode 0600.)";
 
 // CLI11 takes "--name=" for an option whose value follows. It is an empty value.
 std::vector<std::string> Words(int argc, const char* const* argv) {
@@ -194,6 +209,12 @@ CommandLine ParseCommandLine(int argc, const char* const* argv) {
   diffCommand.footer(kDiffExamples);
   AddDiff(diffCommand, diff);
 
+  ReplayOptions replay;
+  CLI::App& replayCommand =
+      *app.add_subcommand("replay", "Make a server description out of a trace");
+  replayCommand.footer(kReplayExamples);
+  AddReplay(replayCommand, replay);
+
   CLI::App& classesCommand =
       *app.add_subcommand("classes", "List the classes and their short names");
 
@@ -222,6 +243,9 @@ CommandLine ParseCommandLine(int argc, const char* const* argv) {
   if (diffCommand.parsed()) {
     CompleteDiff(diff);
     return diff;
+  }
+  if (replayCommand.parsed()) {
+    return replay;
   }
   CompleteCollect(collectCommand, collect);
   return collect;

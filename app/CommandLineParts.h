@@ -3,6 +3,7 @@
 
 #include "app/CollectOptions.h"
 #include "app/DiffOptions.h"
+#include "app/ReplayOptions.h"
 
 #include <CLI/CLI.hpp>
 #include <filesystem>
@@ -33,5 +34,8 @@ void CompleteCollect(const CLI::App& command, CollectOptions& options);
 // The same of `diff`.
 void AddDiff(CLI::App& command, DiffOptions& options);
 void CompleteDiff(const DiffOptions& options);
+
+// The options of `replay`.
+void AddReplay(CLI::App& command, ReplayOptions& options);
 
 }  // namespace strake::app

@@ -18,5 +18,7 @@ struct Bounds {
 
 // Throws text::InputError, which names the source and the place.
 Value Read(std::string_view text, const std::string& source, const Bounds& bounds);
+// One line of a text of many; the source names the line too: "FILE: line 7".
+Value ReadLine(std::string_view line, const std::string& source, const Bounds& bounds);
 
 }  // namespace strake::json
