@@ -181,6 +181,30 @@ TextAnswer Help(CLI::App& app, const std::string& subject) {
                    " (see strake --help)");
 }
 
+void AddCheck(CLI::App& command, CheckOptions& check) {
+  AddValue(command, "file", "FILE", "Server descriptions (*.server.json)",
+           [&check](const std::string& value) { check.files.emplace_back(value); })
+      ->required()
+      ->expected(1, CLI::detail::expected_max_vector_size)
+      ->allow_extra_args()
+      ->check(RefuseEmptyName);
+}
+
+struct CommandTexts {
+  const char* name;
+  const char* description;
+  const char* footer;
+};
+
+template <typename Options>
+CLI::App& AddCommand(CLI::App& app, const CommandTexts& texts,
+                     void (*addOptions)(CLI::App& command, Options& options), Options& options) {
+  CLI::App& command = *app.add_subcommand(texts.name, texts.description);
+  command.footer(texts.footer);
+  addOptions(command, options);
+  return command;
+}
+
 }  // namespace
 
 CommandLine ParseCommandLine(int argc, const char* const* argv) {
@@ -190,31 +214,18 @@ CommandLine ParseCommandLine(int argc, const char* const* argv) {
   app.require_subcommand(1);
 
   CollectOptions collect;
-  CLI::App& collectCommand = *app.add_subcommand("collect", "Query the plug-in, print a report");
-  collectCommand.footer(kCollectExamples);
-  AddCollect(collectCommand, collect);
-
+  const CLI::App& collectCommand = AddCommand(
+      app, {"collect", "Query the plug-in, print a report", kCollectExamples}, AddCollect, collect);
   CheckOptions check;
-  CLI::App& checkCommand = *app.add_subcommand("check", "Check server descriptions");
-  checkCommand.footer(kCheckExamples);
-  AddValue(checkCommand, "file", "FILE", "Server descriptions (*.server.json)",
-           [&check](const std::string& value) { check.files.emplace_back(value); })
-      ->required()
-      ->expected(1, CLI::detail::expected_max_vector_size)
-      ->allow_extra_args()
-      ->check(RefuseEmptyName);
-
+  const CLI::App& checkCommand =
+      AddCommand(app, {"check", "Check server descriptions", kCheckExamples}, AddCheck, check);
   DiffOptions diff;
-  CLI::App& diffCommand = *app.add_subcommand("diff", "Compare two reports");
-  diffCommand.footer(kDiffExamples);
-  AddDiff(diffCommand, diff);
-
+  const CLI::App& diffCommand =
+      AddCommand(app, {"diff", "Compare two reports", kDiffExamples}, AddDiff, diff);
   ReplayOptions replay;
-  CLI::App& replayCommand =
-      *app.add_subcommand("replay", "Make a server description out of a trace");
-  replayCommand.footer(kReplayExamples);
-  AddReplay(replayCommand, replay);
-
+  const CLI::App& replayCommand =
+      AddCommand(app, {"replay", "Make a server description out of a trace", kReplayExamples},
+                 AddReplay, replay);
   CLI::App& classesCommand =
       *app.add_subcommand("classes", "List the classes and their short names");
 

@@ -32,16 +32,15 @@ void RefuseSharedFile(const ReplayOptions& options) {
       os::IdentityOf(*options.output)
           .IsSameAs(IsStandardInput(options) ? os::IdentityOfDescriptor(os::kStandardInput)
                                              : os::IdentityOf(options.trace))) {
-    throw UsageError("TRACE and --output: both are the file " + options.output->string());
+    throw UsageError("trace and --output: both are the file " + options.output->string());
   }
 }
 
 replay::Replay Read(const ReplayOptions& options) {
   const bool isStandardInput = IsStandardInput(options);
   const std::string name = isStandardInput ? "standard input" : options.trace.string();
-  const std::string text = isStandardInput
-                               ? os::ReadInput(stdin, name, replay::kMostTraceBytes)
-                               : os::ReadInput(options.trace, replay::kMostTraceBytes);
+  const std::string text = isStandardInput ? os::ReadInput(stdin, name, replay::kMostTraceBytes)
+                                           : os::ReadInput(options.trace, replay::kMostTraceBytes);
   replay::ReplayBuilder builder;
   replay::ReadTrace(text, name,
                     [&builder](replay::TraceEvent event) { builder.Take(std::move(event)); });
@@ -75,10 +74,10 @@ int Replay(const ReplayOptions& options) {
   if (file) {
     file->Write(text);
     file->Complete();
-    os::WriteStandardOutput(text::EscapeForPeople(
-                                options.output->string() + " is written; replay it with: " +
-                                replay::CommandOf(replay, options.output->string())) +
-                            "\n");
+    os::WriteStandardOutput(
+        text::EscapeForPeople(options.output->string() + " is written; replay it with: " +
+                              replay::CommandOf(replay, options.output->string())) +
+        "\n");
   } else {
     os::WriteStandardOutput(text);
   }

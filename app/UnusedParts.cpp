@@ -41,7 +41,7 @@ void TellCommands(Parts& parts, const std::string& pointer, const Commands& comm
   }
   for (const auto& [identifier, replies] : commands) {
     const Asked asked = IsDotCommandAsked(identifier, sp);
-    const std::string place = pointer + "/" + text::DotNotation(identifier);
+    const std::string place = pointer + "/" + text::DotNotationOf(identifier);
     if (asked == Asked::Never) {
       Tell(parts, place, "no such command is ever sent");
     } else if (asked == Asked::BeyondCount) {
@@ -76,7 +76,7 @@ void TellOrlo(Parts& parts, const SpDescription& sp) {
   TellInstances(parts, sp);
   for (const auto& [identifier, count] : sp.components) {
     TellIf(!IsComponentCounted(identifier), parts, "/sp/components",
-           "nothing counts " + text::DotNotation(identifier) + ", whatever its fourth byte");
+           "nothing counts " + text::DotNotationOf(identifier) + ", whatever its fourth byte");
   }
 }
 

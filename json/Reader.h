@@ -12,8 +12,8 @@ namespace strake::json {
 
 // What a text may cost.
 struct Bounds {
-  int deepest = 64;        // levels of nesting
-  std::size_t mostValues;  // in the whole text
+  int deepest = 64;            // levels of nesting
+  std::size_t mostValues = 0;  // in the whole text
 };
 
 // Throws text::InputError, which names the source and the place.

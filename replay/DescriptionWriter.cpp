@@ -21,9 +21,9 @@ std::string Text(std::string_view text) { return Line(text::ToValidUtf8(text)); 
 // Members or items one a line, between a pair of brackets.
 class Block {
  public:
-  Block(std::string& out, std::size_t depth, const char* brackets)
-      : fOut(out), fIndent(2 * depth), fClosing(brackets[1]) {
-    fOut += brackets[0];
+  Block(std::string& out, std::size_t depth, std::string_view brackets)
+      : fOut(out), fIndent(2 * depth), fClosing(brackets.back()) {
+    fOut += brackets.front();
   }
   Block(const Block&) = delete;
   Block& operator=(const Block&) = delete;
@@ -122,7 +122,7 @@ void AppendInstances(std::string& out, std::size_t depth, const platform::SpDesc
     members.Key("dot_commands");
     Block commands(out, depth + 2, "{}");
     for (const auto& [identifier, replies] : instance) {
-      commands.Key(text::DotNotation(identifier));
+      commands.Key(text::DotNotationOf(identifier));
       AppendReplies(out, replies);
     }
   }
@@ -135,7 +135,7 @@ void AppendComponents(std::string& out, const platform::SpDescription& sp) {
     platform::Identifier first = identifier;
     first.at(3) = '\1';
     out += separator;
-    out += Line(text::DotNotation(first)) + ": " + std::to_string(count);
+    out += Line(text::DotNotationOf(first)) + ": " + std::to_string(count);
     separator = ", ";
   }
   out += '}';

@@ -23,9 +23,7 @@ bool IsLower(char character) { return character >= 'a' && character <= 'z'; }
 bool IsOfWord(char character) {
   return IsDigit(character) || IsUpper(character) || IsLower(character);
 }
-bool IsMark(char character) {
-  return character > ' ' && character <= '~' && !IsOfWord(character);
-}
+bool IsMark(char character) { return character > ' ' && character <= '~' && !IsOfWord(character); }
 
 char ToLower(char character) {
   return IsUpper(character) ? static_cast<char>(character - 'A' + 'a') : character;
@@ -64,10 +62,10 @@ std::string ReplaceWord(std::string_view word, std::uint64_t key) {
   return replaced;
 }
 
-// Keeps the number of decimal digits.
+// Keeps the number of decimal digits, and a zero, which ends a text.
 unsigned char AnotherByte(unsigned char byte, std::uint64_t random) {
   if (byte < 10) {
-    return static_cast<unsigned char>(Another(byte, 0, 9, random));
+    return static_cast<unsigned char>(byte == 0 ? 0 : Another(byte, 1, 9, random));
   }
   return static_cast<unsigned char>(byte < 100 ? Another(byte, 10, 99, random)
                                                : Another(byte, 100, 255, random));
@@ -104,10 +102,10 @@ constexpr std::uint64_t kAddresses = 2;
 constexpr std::uint64_t kMacAddresses = 3;
 constexpr std::uint64_t kOthers = 4;
 
-// An address as four numbers; its size is how much of the text it is.
-std::optional<std::string> AddressOf(std::string_view word) {
-  std::optional<std::string> bytes = text::ParseDotNotation(word);
-  return bytes && bytes->size() == 4 ? bytes : std::nullopt;
+// Four numbers, not all of them 0.
+std::optional<std::string> AddressOf(std::string_view numbers) {
+  std::optional<std::string> bytes = text::ParseDotNotation(numbers);
+  return bytes && bytes->size() == 4 && !IsZero(*bytes) ? bytes : std::nullopt;
 }
 
 // Of the characters that are in no word.
@@ -140,7 +138,7 @@ std::string ReplaceEach(std::string_view text, std::uint64_t key) {
     const std::size_t word = CountFront(text, IsOfWord);
     std::size_t taken = numbers;
     if (const auto address = AddressOf(text.substr(0, numbers))) {
-      replaced += text::DotNotation(ReplaceBytes(*address, Mix(key, kAddresses)));
+      replaced += text::DotNotationOf(ReplaceBytes(*address, Mix(key, kAddresses)));
     } else if (word != 0) {
       taken = word;
       replaced += ReplaceWord(text.substr(0, word), Mix(key, kWords));
@@ -160,9 +158,10 @@ std::string ReplaceMarks(std::string_view text, std::uint64_t key) {
   for (const char character : text) {
     key = Mix(key, static_cast<unsigned char>(character));
     const std::size_t place = kMarks.find(character);
-    replaced += IsMark(character) ? kMarks.at(Another(static_cast<unsigned int>(place), 0,
-                                                      kMarks.size() - 1, key))
-                                  : character;
+    replaced +=
+        IsMark(character)
+            ? kMarks.at(Another(static_cast<unsigned int>(place), 0, kMarks.size() - 1, key))
+            : character;
   }
   return replaced;
 }

@@ -25,8 +25,8 @@ class Replacements {
   // characters stay, unless there are no others. The same word is replaced by the
   // same one within all texts, whatever its capitals, and so is an address.
   [[nodiscard]] std::string OfText(std::string_view text) const;
-  // An IP address's bytes: those that begin alike do so afterwards, and each has
-  // as many decimal digits as before. Network masks and 0.0.0.0 stay.
+  // An IP address's bytes: addresses that begin alike do so afterwards, and each
+  // byte has as many decimal digits as before; 0 stays 0. So do network masks.
   [[nodiscard]] std::string OfAddress(std::string_view bytes) const;
   // A MAC address's bytes, in the same way.
   [[nodiscard]] std::string OfMacAddress(std::string_view bytes) const;

@@ -4,6 +4,7 @@
 #include "text/InputError.h"
 #include "text/TextEscape.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace strake::replay {
@@ -24,15 +25,17 @@ void Shorten(ReplySequence& replies) {
   replies.shrink_to_fit();
 }
 
-// Whether a command that is not there answers the same.
+// Whether commands that are not there answer the same.
 bool SaysNothing(const std::map<platform::Identifier, ReplySequence>& commands) {
-  static const Reply kNone{"", 0, false};
-  for (const auto& [identifier, replies] : commands) {
-    if (replies.size() != 1 || replies.front() != kNone) {
-      return false;
-    }
+  static const ReplySequence kNothing = {{"", 0, false}};
+  return std::ranges::all_of(commands,
+                             [](const auto& command) { return command.second == kNothing; });
+}
+
+void Warn(Replay& replay, bool holds, const std::string& text) {
+  if (holds) {
+    replay.warnings.push_back(text);
   }
-  return true;
 }
 
 std::string Differs(const std::string& call) {
@@ -93,16 +96,9 @@ Replay ReplayBuilder::Complete(const std::string& source, const std::string& nam
   BuildSp(replay);
   Warn(replay, fLacksClass, "a class was not found; the classes of a description are always found");
   Warn(replay, fQueriesThatThrew != 0,
-       std::to_string(fQueriesThatThrew) +
-           (fQueriesThatThrew == 1 ? " query" : " queries") +
+       std::to_string(fQueriesThatThrew) + (fQueriesThatThrew == 1 ? " query" : " queries") +
            " left by an exception, which a description cannot bring about");
   return replay;
-}
-
-void ReplayBuilder::Warn(Replay& replay, bool holds, const std::string& text) const {
-  if (holds) {
-    replay.warnings.push_back(text);
-  }
 }
 
 void ReplayBuilder::BuildHost(Replay& replay) {
@@ -140,8 +136,7 @@ void ReplayBuilder::BuildSp(Replay& replay) {
     sp.kind = isTavit ? platform::SpKind::Tavit : platform::SpKind::None;
   }
   sp.communicates = settle(Question::CheckSPComm, "checkSPComm", sp.communicates);
-  sp.managementServerStopped =
-      settle(Question::IsQmvStop, "isQmvStop", sp.managementServerStopped);
+  sp.managementServerStopped = settle(Question::IsQmvStop, "isQmvStop", sp.managementServerStopped);
   sp.dornLibrary = settle(Question::IsDornlibrary, "isDornlibrary", sp.dornLibrary);
   sp.commandList = settle(Question::BuildDotCommandList, "buildDotCommandList", sp.commandList);
   BuildComponents(replay);
@@ -153,7 +148,7 @@ void ReplayBuilder::BuildSp(Replay& replay) {
 void ReplayBuilder::BuildComponents(Replay& replay) {
   for (const auto& [identifier, count] : fComponents) {
     const int first = *count.First();
-    const std::string name = "the count of component " + text::DotNotation(identifier);
+    const std::string name = "the count of component " + text::DotNotationOf(identifier);
     Warn(replay, count.Differs(), name + " was not always the same; its first one stays");
     if (first == -1) {
       continue;  // as of a component that is not there

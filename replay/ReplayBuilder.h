@@ -60,7 +60,6 @@ class ReplayBuilder {
   void BuildSp(Replay& replay);
   void BuildComponents(Replay& replay);
   void BuildInstances(platform::SpDescription& sp);
-  void Warn(Replay& replay, bool holds, const std::string& text) const;
 
   std::vector<std::vector<std::string>> fQueries;
   std::array<OneAnswer<platform::HostAnswer>, kHostCalls> fHost;

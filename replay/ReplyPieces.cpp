@@ -19,8 +19,6 @@ enum class Use { Unknown, Kept, Text, Address, MacAddress };
 constexpr std::size_t kClockBytes = 7;
 constexpr std::size_t kAddressBytes = 4;
 constexpr std::size_t kMacAddressBytes = 6;
-// No list of a Tavit processor is longer.
-constexpr std::size_t kListBytes = 30;
 // Bytes of unknown use that look like a text of so many characters are one.
 constexpr std::size_t kShortestText = 4;
 
@@ -30,10 +28,11 @@ class Uses {
   explicit Uses(std::string_view bytes) : fBytes(bytes), fUses(bytes.size(), Use::Unknown) {}
 
   void Mark(std::size_t offset, std::size_t size, Use use) {
-    const std::size_t begin = std::min(offset, fUses.size());
-    const std::size_t end = begin + std::min(size, fUses.size() - begin);
-    std::fill(fUses.begin() + static_cast<std::ptrdiff_t>(begin),
-              fUses.begin() + static_cast<std::ptrdiff_t>(end), use);
+    std::ranges::fill(From(offset, size), use);
+  }
+  // Where nothing else is known: a byte that is for two things is text or address.
+  void Keep(std::size_t offset, std::size_t size) {
+    std::ranges::replace(From(offset, size), Use::Unknown, Use::Kept);
   }
   // A value of this decoder; its reader looks at no byte behind it.
   void MarkValue(std::size_t offset, std::size_t size, ValueDecoder decode);
@@ -41,6 +40,10 @@ class Uses {
   [[nodiscard]] std::vector<Piece> Pieces() const;
 
  private:
+  [[nodiscard]] std::span<Use> From(std::size_t offset, std::size_t size) {
+    const std::size_t begin = std::min(offset, fUses.size());
+    return std::span(fUses).subspan(begin, std::min(size, fUses.size() - begin));
+  }
   // How many bytes from there are for the same and, of a text, one text.
   [[nodiscard]] std::size_t RunFrom(std::size_t offset) const;
   [[nodiscard]] bool IsPrintable(std::size_t offset) const {
@@ -59,15 +62,15 @@ void Uses::MarkValue(std::size_t offset, std::size_t size, ValueDecoder decode) 
   } else if (decode == DecodeMacDecimal || decode == &DecodeMacHexadecimal) {
     Mark(offset, std::min(size, kMacAddressBytes), Use::MacAddress);
   } else {
-    Mark(offset, std::min(size, kClockBytes), Use::Kept);
+    Keep(offset, std::min(size, kClockBytes));
   }
 }
 
 std::size_t Uses::RunFrom(std::size_t offset) const {
   const Use use = fUses[offset];
   std::size_t end = offset;
-  while (end < fUses.size() && fUses[end] == use &&
-         (use != Use::Text || fBytes[end] != '\0') && (use != Use::Unknown || IsPrintable(end))) {
+  while (end < fUses.size() && fUses[end] == use && (use != Use::Text || fBytes[end] != '\0') &&
+         (use != Use::Unknown || IsPrintable(end))) {
     ++end;
   }
   return end - offset;
@@ -112,7 +115,7 @@ class ElementPlaces {
 void MarkRecord(Uses& uses, std::string_view bytes, const RecordLayout& layout) {
   ElementPlaces values(bytes);
   for (const RecordField& field : layout.fields) {
-    uses.Mark(values.Start(), 2, Use::Kept);
+    uses.Keep(values.Start(), 2);
     if (field.form == FieldForm::Plain) {
       uses.MarkValue(values.DataPlace(), values.DataLength(), field.decode);
     } else {
@@ -160,8 +163,7 @@ ValueDecoder FindDecoder(std::string_view name) {
 std::vector<Piece> PiecesOfDotReply(const platform::Identifier& identifier,
                                     std::string_view bytes) {
   Uses uses(bytes);
-  const std::span key(reinterpret_cast<const unsigned char*>(identifier.data()),
-                      identifier.size());
+  const std::span key(reinterpret_cast<const unsigned char*>(identifier.data()), identifier.size());
   const std::optional<findings::KnownCommand> known = findings::FindCommand(key);
   if (!known || std::ranges::equal(key, kPresenceTest.Bytes())) {
     return uses.Pieces();
@@ -175,12 +177,9 @@ std::vector<Piece> PiecesOfDotReply(const platform::Identifier& identifier,
 }
 
 std::vector<Piece> PiecesOfKestleReply(unsigned char code, std::string_view bytes) {
-  Uses uses(bytes);
-  if (code == kVoltageRequest.code || code == kTemperatureRequest.code ||
-      code == kFanRequest.code) {
-    uses.Mark(0, kListBytes, Use::Kept);
-  }
-  return uses.Pieces();
+  const bool isList =
+      code == kVoltageRequest.code || code == kTemperatureRequest.code || code == kFanRequest.code;
+  return isList ? std::vector<Piece>() : Uses(bytes).Pieces();
 }
 
 }  // namespace strake::replay

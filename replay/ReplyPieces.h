@@ -20,8 +20,7 @@ struct Piece {
 // In the order of their offsets; none overlaps another. What the records have no
 // place for is a piece where it reads like text. Bytes that lay out a record and
 // those of codes, readings and clocks are in none.
-std::vector<Piece> PiecesOfDotReply(const platform::Identifier& identifier,
-                                    std::string_view bytes);
+std::vector<Piece> PiecesOfDotReply(const platform::Identifier& identifier, std::string_view bytes);
 std::vector<Piece> PiecesOfKestleReply(unsigned char code, std::string_view bytes);
 
 }  // namespace strake::replay

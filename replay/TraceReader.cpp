@@ -127,8 +127,7 @@ TraceEvent ReadComponentCount(const TraceLine& line) {
 }
 
 TraceEvent ReadDotSend(const TraceLine& line) {
-  line.AllowKeys(
-      {"event", "call", "class", "id", "sp", "size", "result", "length", "reply"});
+  line.AllowKeys({"event", "call", "class", "id", "sp", "size", "result", "length", "reply"});
   static_cast<void>(line.Number("class"));
   static_cast<void>(line.Number("size"));
   return DotCommandSent{line.Identifier("id"), line.Number("sp", 0, UINT8_MAX), line.Reply()};

@@ -16,7 +16,7 @@ std::string DotNotation(std::span<const unsigned char> identifier) {
   return text;
 }
 
-std::string DotNotation(std::string_view identifier) {
+std::string DotNotationOf(std::string_view identifier) {
   return DotNotation(
       std::span(reinterpret_cast<const unsigned char*>(identifier.data()), identifier.size()));
 }

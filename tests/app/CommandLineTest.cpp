@@ -202,7 +202,7 @@ TEST(CommandLine, RefusesWhatItDoesNotKnow) {
     std::string expected;
   };
   const std::vector<Case> cases = {
-      {{}, "a subcommand was expected: collect, check, classes, help or version"},
+      {{}, "a subcommand was expected: collect, check, diff, replay, classes, help or version"},
       {{"gather"}, "there is no subcommand 'gather'"},
       {{""}, "there is no subcommand ''"},
       {{"colect", "--server", "s"}, "there is no subcommand 'colect', did you mean 'collect'?"},
