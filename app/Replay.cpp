@@ -3,8 +3,8 @@
 #include "app/Errors.h"
 #include "app/Messages.h"
 #include "app/Server.h"
+#include "app/SharedFiles.h"
 #include "app/Trail.h"
-#include "os/FileIdentity.h"
 #include "os/InputFile.h"
 #include "os/OutputFile.h"
 #include "platform/server/ServerDescription.h"
@@ -23,22 +23,13 @@ namespace {
 
 bool IsStandardInput(const ReplayOptions& options) { return options.trace == kStandardInput; }
 
-bool GoesToFile(const ReplayOptions& options) {
-  return options.output && os::NamedDescriptor(*options.output) != os::kStandardOutput;
-}
-
-void RefuseSharedFile(const ReplayOptions& options) {
-  if (GoesToFile(options) &&
-      os::IdentityOf(*options.output)
-          .IsSameAs(IsStandardInput(options) ? os::IdentityOfDescriptor(os::kStandardInput)
-                                             : os::IdentityOf(options.trace))) {
-    throw UsageError("trace and --output: both are the file " + options.output->string());
-  }
+std::string NameOf(const ReplayOptions& options) {
+  return IsStandardInput(options) ? "standard input" : options.trace.string();
 }
 
 replay::Replay Read(const ReplayOptions& options) {
   const bool isStandardInput = IsStandardInput(options);
-  const std::string name = isStandardInput ? "standard input" : options.trace.string();
+  const std::string name = NameOf(options);
   const std::string text = isStandardInput ? os::ReadInput(stdin, name, replay::kMostTraceBytes)
                                            : os::ReadInput(options.trace, replay::kMostTraceBytes);
   replay::ReplayBuilder builder;
@@ -56,15 +47,16 @@ std::uint64_t MakeKey() {
 }  // namespace
 
 int Replay(const ReplayOptions& options) {
-  RefuseSharedFile(options);
+  RefuseSharedFiles(options);
   replay::Replay replay = Read(options);
   if (options.scrub) {
     replay::Scrub(replay, MakeKey());
   }
   const std::string text = replay::WriteDescription(replay);
   // What is written can be read: a trace may hold more than a description.
-  static_cast<void>(platform::ParseServerDescription(text, "the description of " + replay.source));
-  const bool isFile = GoesToFile(options);
+  static_cast<void>(
+      platform::ParseServerDescription(text, "the description of " + NameOf(options)));
+  const bool isFile = !GoesToStandardOutput(options);
   const std::unique_ptr<os::OutputFile> file =
       OpenOutput(isFile ? options.output : std::nullopt,
                  options.scrub ? os::Privacy::Usual : os::Privacy::Owner);

@@ -120,7 +120,7 @@ TEST_F(CommandReplayTest, RefusesWhatItCannotReadAndTouchesNothing) {
     EXPECT_EQ(ReadFile(output), "old description");
   }
   EXPECT_EQ(Strake({"replay", cut, "--output", cut}),
-            (Outcome{2, "", "strake: trace and --output: both are the file " + cut + "\n"}));
+            (Outcome{2, "", "strake: the trace and --output: both are the file " + cut + "\n"}));
 }
 
 }  // namespace
