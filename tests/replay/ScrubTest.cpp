@@ -209,6 +209,23 @@ TEST(Scrub, ReplacesTextsAndAddressesAndKeepsEverythingElse) {
   }
 }
 
+TEST(Scrub, ReplacesNoTextByAnotherOne) {
+  constexpr int kTexts = 2000;
+  std::set<std::string> originals;
+  replay::Replay replay;
+  replay.server.sp.instances.resize(1);
+  platform::ReplySequence& replies = replay.server.sp.instances.at(0)["\4\x9\3\1\2"];
+  for (int number = 1000; number < 1000 + kTexts; ++number) {
+    replies.push_back({std::to_string(number), 4, true});
+    originals.insert(replies.back().bytes);
+  }
+  replay::Scrub(replay, kKey);
+  for (const platform::Reply& reply : replies) {
+    EXPECT_EQ(reply.bytes.size(), 4U);
+    EXPECT_FALSE(originals.contains(reply.bytes)) << reply.bytes;
+  }
+}
+
 TEST(Scrub, KeepsTheMachineTypeAloneOfWhatTheHostSays) {
   const struct {
     std::string told;
