@@ -13,7 +13,8 @@ namespace {
 
 Server Named(const std::string& name, platform::ServerDescription description) {
   Server server;
-  server.facts = {name, description.description, std::string(platform::KindName(description.sp.kind))};
+  server.facts = {name, description.description,
+                  std::string(platform::KindName(description.sp.kind))};
   server.description = std::move(description);
   return server;
 }
