@@ -1,6 +1,9 @@
 #include "report/Formats.h"
 
+#include "report/CimXmlReport.h"
+#include "report/CsvReport.h"
 #include "report/JsonReport.h"
+#include "report/MofReport.h"
 #include "report/TableReport.h"
 
 #include <algorithm>
@@ -12,6 +15,10 @@ constexpr Format kFormats[] = {
     {"table", ".txt", "text/plain; charset=utf-8", WriteTable, FindingsGo::InReport, Classes::Any,
      Laid::OutForPeople},
     {"json", ".json", "application/json", WriteJson, FindingsGo::InReport},
+    {"csv", ".csv", "text/csv; charset=utf-8", WriteCsv, FindingsGo::ToStandardError,
+     Classes::ExactlyOne},
+    {"mof", ".mof", "text/plain; charset=utf-8", WriteMof, FindingsGo::ToStandardError},
+    {"cimxml", ".xml", "application/xml; charset=utf-8", WriteCimXml, FindingsGo::ToStandardError},
 };
 
 }  // namespace
