@@ -5,6 +5,7 @@
 #include "report/JsonReport.h"
 #include "report/MofReport.h"
 #include "report/TableReport.h"
+#include "text/OrList.h"
 
 #include <algorithm>
 
@@ -36,15 +37,6 @@ const Format* FindFormatOfFile(std::string_view fileName) {
   return found == std::end(kFormats) ? nullptr : found;
 }
 
-std::string FormatNames() {
-  std::string names;
-  for (const Format& format : kFormats) {
-    if (!names.empty()) {
-      names += &format == &kFormats[std::size(kFormats) - 1] ? " or " : ", ";
-    }
-    names += format.name;
-  }
-  return names;
-}
+std::string FormatNames() { return text::OrList(Formats(), &Format::name); }
 
 }  // namespace strake::report
