@@ -1,12 +1,19 @@
 #include "fuzz/Check.h"
 #include "fuzz/Harnesses.h"
 #include "fuzz/ReportBytes.h"
+#include "report/CimXmlReport.h"
+#include "report/CsvReport.h"
+#include "report/Formats.h"
 #include "report/JsonReport.h"
+#include "report/MofReport.h"
 #include "report/TableReport.h"
+#include "tests/support/ReadBack.h"
 #include "text/TextEscape.h"
 
 #include <algorithm>
 #include <nlohmann/json.hpp>
+#include <set>
+#include <stdexcept>
 #include <string_view>
 
 namespace strake::fuzz {
@@ -84,6 +91,36 @@ void CheckJson(const std::string& text, const ReportCase& reportCase) {
   }
 }
 
+// An apostrophe may stand before what a spreadsheet would calculate.
+void CheckCell(const std::string& cell, const cim::SchemaProperty& column,
+               const cim::StoredInstance& instance, const ReportCase& reportCase) {
+  std::string expected;
+  for (const cim::StoredProperty& stored : instance.properties) {
+    if (stored.schema != &column) continue;
+    const ordered_json value = Expected(stored, reportCase);
+    expected = value.is_string() ? value.get<std::string>() : value.dump();
+  }
+  Check(cell == expected || cell == '\'' + expected, "a cell has its property's value");
+}
+
+// The table of one class.
+void CheckCsv(const std::string& text, const cim::SchemaClass& schema,
+              const ReportCase& reportCase) {
+  const auto rows = tests::ReadCsv(text);
+  Check(!rows.empty() && rows.front().size() >= schema.properties.size(),
+        "a table has a column for each property");
+  std::size_t row = 1;
+  for (const cim::StoredInstance& instance : reportCase.instances) {
+    if (instance.schema != &schema) continue;
+    Check(row < rows.size(), "a table has a row for each instance");
+    for (std::size_t i = 0; i < schema.properties.size(); ++i) {
+      CheckCell(rows[row][i], schema.properties[i], instance, reportCase);
+    }
+    ++row;
+  }
+  Check(row == rows.size(), "a table has no other rows");
+}
+
 void CheckText(const std::string& text, const ReportCase& reportCase) {
   Check(text.ends_with('\n'), "a report ends with a whole line");
   Check(IsValidUtf8(text), "a report is UTF-8");
@@ -111,23 +148,53 @@ std::string Written(report::Writer writer, const report::Report& report, report:
   return out;
 }
 
-}  // namespace
-
-int FuzzReport(const std::uint8_t* data, std::size_t size) {
-  ReportCase reportCase = DecodeReport({data, size});
-  MarkSecrets(reportCase);
-  const report::Report report(
+report::Report ReportOf(const ReportCase& reportCase,
+                        const std::vector<const cim::SchemaClass*>& classes) {
+  report::LimitRule rule;
+  rule.lowerWarning = report::Bound{-100, "-100"};
+  rule.upperCritical = report::Bound{100, "100"};
+  return report::Report(
       {.facts = {.server = {reportCase.serverName, reportCase.serverDescription, "orlo"},
                  .version = "1.0.0",
                  .collectedAt = {},
-                 .queries = 1},
+                 .queries = 1,
+                 .classes = classes},
        .instances = reportCase.instances},
-      reportCase.showSecrets ? report::Secrets::Shown : report::Secrets::Masked);
+      reportCase.showSecrets ? report::Secrets::Shown : report::Secrets::Masked,
+      report::Limits{rule});
+}
 
+// What one format's reader gives is what another one's gives.
+void CheckReadBack(const report::Report& report, const std::string& json) {
+  const ordered_json instances = tests::ReadJsonInstances(json);
+  const std::string mof = Written(report::WriteMof, report, report::Colour::Never);
+  Check(!HasControls(mof), "MOF has no control characters");
+  Check(tests::ReadMof(mof).instances.dump() == instances.dump(), "MOF says what JSON says");
+  const std::string xml = Written(report::WriteCimXml, report, report::Colour::Never);
+  Check(tests::ReadCimXml(xml).dump() == tests::AsXmlHolds(instances).dump(),
+        "CIM-XML says what JSON says");
+}
+
+void CheckTables(const ReportCase& reportCase) {
+  std::set<const cim::SchemaClass*> classes;
+  for (const cim::StoredInstance& instance : reportCase.instances) classes.insert(instance.schema);
+  for (const cim::SchemaClass* const schema : classes) {
+    const report::Report report = ReportOf(reportCase, {schema});
+    CheckCsv(Written(report::WriteCsv, report, report::Colour::Never), *schema, reportCase);
+  }
+}
+
+// Readers throw for what is not well-formed.
+void CheckFormats(const ReportCase& reportCase) {
+  const report::Report report = ReportOf(reportCase, {});
+  for (const report::Format& format : report::Formats()) {
+    CheckText(Written(format.write, report, report::Colour::Never), reportCase);
+  }
   const std::string json = Written(report::WriteJson, report, report::Colour::Never);
-  CheckText(json, reportCase);
   CheckJson(json, reportCase);
   Check(!HasControls(json), "a JSON report has no control characters");
+  CheckReadBack(report, json);
+  CheckTables(reportCase);
   const auto colour = reportCase.colours ? report::Colour::Terminal : report::Colour::Never;
   std::string table = Written(report::WriteTable, report, colour);
   CheckText(table, reportCase);
@@ -136,6 +203,18 @@ int FuzzReport(const std::uint8_t* data, std::size_t size) {
     if (reportCase.colours) table = Without(table, colours);
   }
   Check(!HasControls(table), "a table has no control characters");
+}
+
+}  // namespace
+
+int FuzzReport(const std::uint8_t* data, std::size_t size) {
+  ReportCase reportCase = DecodeReport({data, size});
+  MarkSecrets(reportCase);
+  try {
+    CheckFormats(reportCase);
+  } catch (const std::exception& error) {
+    Check(false, error.what());
+  }
   return 0;
 }
 
