@@ -2,8 +2,6 @@
 
 #include "text/EscapeCsv.h"
 
-#include <algorithm>
-
 namespace strake::report {
 namespace {
 
@@ -44,17 +42,11 @@ std::string Header(const cim::SchemaClass& schema, bool hasStates) {
   return line.End();
 }
 
-// Empty when it was not set.
-std::string CellOf(const cim::StoredInstance& instance, const cim::SchemaProperty& property) {
-  const auto found =
-      std::ranges::find(instance.properties, &property, &cim::StoredProperty::schema);
-  return found == instance.properties.end() ? std::string() : cim::ToText(found->value);
-}
-
 std::string Row(const cim::StoredInstance& instance, const Report& report) {
   Line line;
   for (const cim::SchemaProperty& property : instance.schema->properties) {
-    line.Add(CellOf(instance, property));
+    const cim::Value* const value = cim::FindValue(instance, property.name);
+    line.Add(value == nullptr ? "" : cim::ToText(*value));
   }
   if (const Sensor* const sensor = report.FindSensor(instance)) {
     line.Add(ReadingFitsDouble(*sensor) ? sensor->reading : "");
@@ -68,11 +60,13 @@ std::string Row(const cim::StoredInstance& instance, const Report& report) {
 
 }  // namespace
 
+// Classes are known by their names: the host's libraries and the command can have
+// a catalogue each.
 void WriteCsv(const Report& report, const Layout& /*layout*/, const Sink& sink) {
   const cim::SchemaClass& schema = ClassOf(report);
   sink(Header(schema, report.HasStates()));
   for (const cim::StoredInstance& instance : report.Instances()) {
-    if (instance.schema == &schema) {
+    if (instance.schema->name == schema.name) {
       sink(Row(instance, report));
     }
   }

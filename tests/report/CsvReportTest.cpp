@@ -79,6 +79,14 @@ TEST(CsvReport, IsOfTheFirstInstanceUnlessOneClassWasAskedFor) {
       systems);
 }
 
+TEST(CsvReport, KnowsAClassOfAnotherCatalogueByItsName) {
+  const cim::SchemaClass other = *cim::FindSchemaClass("VELKSG_SP_ComputerSystem");
+  report::CollectionFacts facts = SomeFacts();
+  facts.classes = {&other};
+  EXPECT_EQ(CsvOf(ReportOf({Instance("VELKSG_SP_ComputerSystem", {{"Name", "x"}})}, facts)),
+            "CreationClassName,SourceNode,Name,SPClock\r\n,,x,\r\n");
+}
+
 TEST(CsvReport, HasAHeaderWithoutInstances) {
   EXPECT_EQ(CsvOf(ReportOf({}, AskedFor({"VELKSG_SP_NumericSensor"}))),
             std::string(kSensorColumns) + "\r\n");
