@@ -3,9 +3,7 @@
 #include "report/Timestamp.h"
 #include "text/TextEscape.h"
 
-#include <cmath>
 #include <nlohmann/json.hpp>
-#include <optional>
 #include <string>
 
 namespace strake::report {
@@ -56,15 +54,10 @@ Json FindingOf(const Finding& finding) {
 
 std::string Line(const Json& json) { return text::EscapeJson(json.dump()); }
 
-// JSON bounds no number, but a reader that keeps it as a double can refuse one
-// that is beyond all of them, and the whole report with it.
-bool FitsDouble(const Sensor& sensor) {
-  const std::optional<double> value = ReadingValue(sensor);
-  return value && std::isfinite(*value);
-}
-
 // An instance's object. The reading is put in as it is written: a number in
-// JSON has no last place that could get lost.
+// JSON has no last place that could get lost. JSON bounds no number either, but a
+// reader that keeps it as a double can refuse the whole report for one beyond all
+// of them.
 std::string InstanceLine(const cim::StoredInstance& instance, const Report& report) {
   std::string line = Line(InstanceOf(instance));
   const Sensor* const sensor = report.FindSensor(instance);
@@ -72,7 +65,7 @@ std::string InstanceLine(const cim::StoredInstance& instance, const Report& repo
     return line;
   }
   line.back() = ',';
-  if (FitsDouble(*sensor)) {
+  if (ReadingFitsDouble(*sensor)) {
     line += "\"reading\":" + sensor->reading + ",";
   }
   line += "\"unit\":" + Line(sensor->unit);
