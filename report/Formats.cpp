@@ -1,5 +1,6 @@
 #include "report/Formats.h"
 
+#include "report/HtmlReport.h"
 #include "report/JsonReport.h"
 #include "report/TableReport.h"
 
@@ -12,6 +13,7 @@ constexpr Format kFormats[] = {
     {"table", ".txt", "text/plain; charset=utf-8", WriteTable, FindingsGo::InReport, Classes::Any,
      Laid::OutForPeople},
     {"json", ".json", "application/json", WriteJson, FindingsGo::InReport},
+    {"html", ".html", "text/html; charset=utf-8", WriteHtml, FindingsGo::InReport},
 };
 
 }  // namespace

@@ -8,7 +8,7 @@
 namespace strake::tests {
 namespace {
 
-TEST(Formats, AreTableAndJson) {
+TEST(Formats, AreThese) {
   const struct {
     std::string name;
     std::string ending;
@@ -16,6 +16,7 @@ TEST(Formats, AreTableAndJson) {
   } expected[] = {
       {"table", ".txt", "text/plain; charset=utf-8"},
       {"json", ".json", "application/json"},
+      {"html", ".html", "text/html; charset=utf-8"},
   };
   ASSERT_EQ(report::Formats().size(), std::size(expected));
   for (std::size_t i = 0; i < std::size(expected); ++i) {
@@ -24,7 +25,7 @@ TEST(Formats, AreTableAndJson) {
     EXPECT_EQ(format.fileEnding, expected[i].ending);
     EXPECT_EQ(format.mediaType, expected[i].mediaType);
   }
-  EXPECT_EQ(report::FormatNames(), "table or json");
+  EXPECT_EQ(report::FormatNames(), "table, json or html");
 }
 
 TEST(Formats, AreFoundByTheirNamesAndEndingsAndNoOthers) {
