@@ -19,11 +19,6 @@ bool FitsForm(char form, char character) {
   }
 }
 
-bool IsDateTime(std::string_view text) {
-  return text.size() == kForm.size() &&
-         std::equal(kForm.begin(), kForm.end(), text.begin(), FitsForm);
-}
-
 void AppendTwoDigits(std::string& out, int number) {
   if (number < 10) {
     out += '0';
@@ -42,6 +37,11 @@ void AppendOffset(std::string& out, std::string_view minutesText) {
 }
 
 }  // namespace
+
+bool IsDateTime(std::string_view text) {
+  return text.size() == kForm.size() &&
+         std::equal(kForm.begin(), kForm.end(), text.begin(), FitsForm);
+}
 
 std::string DateTimeForPeople(std::string_view cimText) {
   if (!IsDateTime(cimText)) {

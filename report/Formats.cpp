@@ -2,6 +2,7 @@
 
 #include "report/CimXmlReport.h"
 #include "report/CsvReport.h"
+#include "report/HtmlReport.h"
 #include "report/JsonReport.h"
 #include "report/MofReport.h"
 #include "report/TableReport.h"
@@ -18,6 +19,7 @@ constexpr Format kFormats[] = {
     {"json", ".json", "application/json", WriteJson, FindingsGo::InReport},
     {"csv", ".csv", "text/csv; charset=utf-8", WriteCsv, FindingsGo::ToStandardError,
      Classes::ExactlyOne},
+    {"html", ".html", "text/html; charset=utf-8", WriteHtml, FindingsGo::InReport},
     {"mof", ".mof", "text/plain; charset=utf-8", WriteMof, FindingsGo::ToStandardError},
     {"cimxml", ".xml", "application/xml; charset=utf-8", WriteCimXml, FindingsGo::ToStandardError},
 };

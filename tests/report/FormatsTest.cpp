@@ -8,7 +8,7 @@
 namespace strake::tests {
 namespace {
 
-TEST(Formats, AreTableJsonAndThoseForOtherPrograms) {
+TEST(Formats, AreThese) {
   const struct {
     std::string name;
     std::string ending;
@@ -18,6 +18,7 @@ TEST(Formats, AreTableJsonAndThoseForOtherPrograms) {
       {"table", ".txt", "text/plain; charset=utf-8"},
       {"json", ".json", "application/json"},
       {"csv", ".csv", "text/csv; charset=utf-8", report::Classes::ExactlyOne},
+      {"html", ".html", "text/html; charset=utf-8"},
       {"mof", ".mof", "text/plain; charset=utf-8"},
       {"cimxml", ".xml", "application/xml; charset=utf-8"},
   };
@@ -29,7 +30,7 @@ TEST(Formats, AreTableJsonAndThoseForOtherPrograms) {
     EXPECT_EQ(format.mediaType, expected[i].mediaType);
     EXPECT_EQ(format.classes, expected[i].classes);
   }
-  EXPECT_EQ(report::FormatNames(), "table, json, csv, mof or cimxml");
+  EXPECT_EQ(report::FormatNames(), "table, json, csv, html, mof or cimxml");
 }
 
 TEST(Formats, AreFoundByTheirNamesAndEndingsAndNoOthers) {
