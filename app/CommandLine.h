@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/CollectOptions.h"
+#include "app/Schema.h"
 
 #include <filesystem>
 #include <string>
@@ -19,7 +20,7 @@ struct TextAnswer {
   std::string text;
 };
 
-using CommandLine = std::variant<CollectOptions, CheckOptions, TextAnswer>;
+using CommandLine = std::variant<CollectOptions, CheckOptions, SchemaOptions, TextAnswer>;
 
 // Throws UsageError.
 CommandLine ParseCommandLine(int argc, const char* const* argv);

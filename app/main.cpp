@@ -4,6 +4,7 @@
 #include "app/CommandLine.h"
 #include "app/Errors.h"
 #include "app/Messages.h"
+#include "app/Schema.h"
 #include "os/InputFile.h"
 #include "os/OutputFile.h"
 #include "os/Signals.h"
@@ -20,6 +21,10 @@ namespace {
 struct Runner {
   int operator()(const CollectOptions& options) const { return Collect(options); }
   int operator()(const CheckOptions& options) const { return Check(options); }
+  int operator()(const SchemaOptions& options) const {
+    WriteSchema(options);
+    return kExitDone;
+  }
   int operator()(const TextAnswer& answer) const {
     os::WriteStandardOutput(answer.text);
     return kExitDone;
