@@ -32,10 +32,9 @@ inline constexpr SchemaProperty kIPProtocolEndpoint[] = {
      "How the interface gets its addresses: DHCP Enabled, DHCP Disabled or DHCP then try static "
      "IP configuration."},
     Address("GatewayIPAddress", "Gateway", "The configured IP address of the gateway."),
-    NoLongerThan(
-        "00:00:00:00:00:00",
-        {"BurnedInMACAddress", "MAC",
-         "The MAC address of the adapter as it was made, in hexadecimal with colons."}),
+    NoLongerThan("00:00:00:00:00:00",
+                 {"BurnedInMACAddress", "MAC",
+                  "The MAC address of the adapter as it was made, in hexadecimal with colons."}),
     Address("HostIPSubnetMask", "Subnet mask", "The configured subnet mask of the interface."),
     {"DHCPHostName", "DHCP host name", "The host name that the DHCP server assigned."},
     Address("DHCPAssignedIPAddress", "DHCP address",
