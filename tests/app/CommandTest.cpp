@@ -365,6 +365,18 @@ TEST_F(CommandTest, AsksEachOfAHundredAndThirtyServiceProcessorsWithoutACount) {
             std::string::npos);
 }
 
+TEST_F(CommandTest, HoldsTheClockOfAServiceProcessorBesideTheHosts) {
+  const auto page = [this](const std::string& localTime) {
+    std::string text = kServer;
+    text.insert(1, "\"local_time\": \"" + localTime + "\", ");
+    return Strake({"collect", "--class", "system", "--format", "html", "--server",
+                   fFolder.Write("clock", text)})
+        .out;
+  };
+  EXPECT_NE(page("20100615154533.000000+000").find("3 s behind"), std::string::npos);
+  EXPECT_NE(page("20100615134525.000000-120").find("5 s ahead"), std::string::npos);
+}
+
 TEST_F(CommandTest, WritesEveryFormOfTheSchema) {
   for (const schema::Format& format : schema::Formats()) {
     const std::string name(format.name);
