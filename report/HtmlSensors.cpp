@@ -130,7 +130,7 @@ void AddDeviation(HtmlOut& out, const Sensor& sensor, const Scale& scale) {
 
 void AddReading(HtmlOut& out, const Sensor& sensor) {
   if (sensor.reading.empty()) {
-    out.Add("<td class=\"number none\">no reading</td>"_html);
+    out.Add("<td class=\"number none\">"_html, ReadingForPeople(sensor), "</td>"_html);
     return;
   }
   out.Add("<td class=\"number\" data-value=\""_html, sensor.reading, "\">"_html, sensor.reading,
