@@ -61,6 +61,12 @@ Examples:
 Exit status: 0 no differences, 1 there are some, 2 wrong usage or a report that is
 refused.)";
 
+constexpr const char* kSchemaExamples =
+    R"(Examples:
+  strake schema                         the classes for CIM tools, in MOF
+  strake schema --format json-schema --output report.schema.json
+  strake schema --format markdown)";
+
 // CLI11 takes "--name=" for an option whose value follows. It is an empty value.
 std::vector<std::string> Words(int argc, const char* const* argv) {
   std::vector<std::string> words;
@@ -136,6 +142,23 @@ std::string RefusalOfWord(const std::string& word, const CLI::App& app) {
                    " --help)");
 }
 
+void AddSchema(CLI::App& command, SchemaOptions& options) {
+  std::string contents;
+  for (const schema::Format& format : schema::Formats()) {
+    contents.append(contents.empty() ? "" : ", ").append(format.name);
+    contents.append(" (").append(format.content).append(1, ')');
+  }
+  AddValue(command, "--format", "FORMAT",
+           contents + "; default: " + std::string(schema::Formats().front().name),
+           [&options](const std::string& value) { options.format = schema::FindFormat(value); })
+      ->check([](const std::string& name) {
+        return schema::FindFormat(name) != nullptr
+                   ? ""
+                   : "there is no format '" + name + "', expected " + schema::FormatNames();
+      });
+  AddFile(command, "--output", "Where the text goes; default: standard output", options.output);
+}
+
 // Gives a text when one was asked for instead of work.
 std::optional<TextAnswer> Parse(CLI::App& app, std::vector<std::string> words) {
   std::reverse(words.begin(), words.end());  // as CLI11 takes them
@@ -194,6 +217,12 @@ CommandLine ParseCommandLine(int argc, const char* const* argv) {
   diffCommand.footer(kDiffExamples);
   AddDiff(diffCommand, diff);
 
+  SchemaOptions schema;
+  CLI::App& schemaCommand =
+      *app.add_subcommand("schema", "Describe the classes and the JSON report");
+  schemaCommand.footer(kSchemaExamples);
+  AddSchema(schemaCommand, schema);
+
   CLI::App& classesCommand =
       *app.add_subcommand("classes", "List the classes and their short names");
 
@@ -222,6 +251,9 @@ CommandLine ParseCommandLine(int argc, const char* const* argv) {
   if (diffCommand.parsed()) {
     CompleteDiff(diff);
     return diff;
+  }
+  if (schemaCommand.parsed()) {
+    return schema;
   }
   CompleteCollect(collectCommand, collect);
   return collect;

@@ -3,6 +3,7 @@
 
 #include "app/CollectOptions.h"
 #include "app/DiffOptions.h"
+#include "app/Schema.h"
 
 #include <filesystem>
 #include <string>
@@ -20,7 +21,8 @@ struct TextAnswer {
   std::string text;
 };
 
-using CommandLine = std::variant<CollectOptions, CheckOptions, DiffOptions, TextAnswer>;
+using CommandLine =
+    std::variant<CollectOptions, CheckOptions, DiffOptions, SchemaOptions, TextAnswer>;
 
 // Throws UsageError.
 CommandLine ParseCommandLine(int argc, const char* const* argv);

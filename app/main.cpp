@@ -5,6 +5,7 @@
 #include "app/Diff.h"
 #include "app/Errors.h"
 #include "app/Messages.h"
+#include "app/Schema.h"
 #include "os/OutputFile.h"
 #include "os/Signals.h"
 #include "os/Terminal.h"
@@ -22,6 +23,10 @@ struct Runner {
   int operator()(const CollectOptions& options) const { return Collect(options); }
   int operator()(const CheckOptions& options) const { return Check(options); }
   int operator()(const DiffOptions& options) const { return Diff(options); }
+  int operator()(const SchemaOptions& options) const {
+    WriteSchema(options);
+    return kExitDone;
+  }
   int operator()(const TextAnswer& answer) const {
     os::WriteStandardOutput(answer.text);
     return kExitDone;

@@ -1,12 +1,19 @@
 #include "fuzz/Check.h"
 #include "fuzz/Harnesses.h"
 #include "fuzz/ReportBytes.h"
+#include "report/CimXmlReport.h"
+#include "report/CsvReport.h"
+#include "report/Formats.h"
 #include "report/JsonReport.h"
+#include "report/MofReport.h"
 #include "report/TableReport.h"
+#include "tests/support/ReadBack.h"
 #include "text/TextEscape.h"
 
 #include <algorithm>
+#include <map>
 #include <nlohmann/json.hpp>
+#include <stdexcept>
 #include <string_view>
 
 namespace strake::fuzz {
@@ -84,6 +91,32 @@ void CheckJson(const std::string& text, const ReportCase& reportCase) {
   }
 }
 
+// An apostrophe may stand before what a spreadsheet would calculate.
+void CheckCell(const std::string& cell, const cim::SchemaProperty& column,
+               const cim::StoredInstance& instance, const ReportCase& reportCase) {
+  std::string expected;
+  for (const cim::StoredProperty& stored : instance.properties) {
+    if (stored.schema != &column) continue;
+    const ordered_json value = Expected(stored, reportCase);
+    expected = value.is_string() ? value.get<std::string>() : value.dump();
+  }
+  Check(cell == expected || cell == '\'' + expected, "a cell has its property's value");
+}
+
+// The table of instances of one class.
+void CheckCsv(const std::string& text, const cim::SchemaClass& schema,
+              const ReportCase& reportCase) {
+  const auto rows = tests::ReadCsv(text);
+  Check(!rows.empty() && rows.front().size() >= schema.properties.size(),
+        "a table has a column for each property");
+  Check(rows.size() == reportCase.instances.size() + 1, "a table has a row for each instance");
+  for (std::size_t row = 1; row < rows.size(); ++row) {
+    for (std::size_t i = 0; i < schema.properties.size(); ++i) {
+      CheckCell(rows[row][i], schema.properties[i], reportCase.instances[row - 1], reportCase);
+    }
+  }
+}
+
 void CheckText(const std::string& text, const ReportCase& reportCase) {
   Check(text.ends_with('\n'), "a report ends with a whole line");
   Check(IsValidUtf8(text), "a report is UTF-8");
@@ -111,23 +144,58 @@ std::string Written(report::Writer writer, const report::Report& report, report:
   return out;
 }
 
-}  // namespace
-
-int FuzzReport(const std::uint8_t* data, std::size_t size) {
-  ReportCase reportCase = DecodeReport({data, size});
-  MarkSecrets(reportCase);
-  const report::Report report(
+report::Report ReportOf(const ReportCase& reportCase,
+                        const std::vector<const cim::SchemaClass*>& classes) {
+  report::LimitRule rule;
+  rule.lowerWarning = report::Bound{-100, "-100"};
+  rule.upperCritical = report::Bound{100, "100"};
+  return report::Report(
       {.facts = {.server = {reportCase.serverName, reportCase.serverDescription, "orlo"},
                  .version = "1.0.0",
                  .collectedAt = {},
-                 .queries = 1},
+                 .queries = 1,
+                 .classes = classes},
        .instances = reportCase.instances},
-      reportCase.showSecrets ? report::Secrets::Shown : report::Secrets::Masked);
+      reportCase.showSecrets ? report::Secrets::Shown : report::Secrets::Masked,
+      report::Limits{rule});
+}
 
+// What one format's reader gives is what another one's gives.
+void CheckReadBack(const report::Report& report, const std::string& json) {
+  const ordered_json instances = tests::ReadJsonInstances(json);
+  const std::string mof = Written(report::WriteMof, report, report::Colour::Never);
+  Check(!HasControls(mof), "MOF has no control characters");
+  Check(tests::ReadMof(mof).instances.dump() == instances.dump(), "MOF says what JSON says");
+  const std::string xml = Written(report::WriteCimXml, report, report::Colour::Never);
+  Check(tests::ReadCimXml(xml).dump() == tests::AsXmlHolds(instances).dump(),
+        "CIM-XML says what JSON says");
+}
+
+// A table of each class.
+void CheckTables(const ReportCase& reportCase) {
+  std::map<const cim::SchemaClass*, ReportCase> cases;
+  for (const cim::StoredInstance& instance : reportCase.instances) {
+    const auto [place, isNew] = cases.try_emplace(instance.schema);
+    if (isNew) place->second.showSecrets = reportCase.showSecrets;
+    place->second.instances.push_back(instance);
+  }
+  for (const auto& [schema, ofClass] : cases) {
+    const report::Report report = ReportOf(ofClass, {schema});
+    CheckCsv(Written(report::WriteCsv, report, report::Colour::Never), *schema, ofClass);
+  }
+}
+
+// Readers throw for what is not well-formed.
+void CheckFormats(const ReportCase& reportCase) {
+  const report::Report report = ReportOf(reportCase, {});
+  for (const report::Format& format : report::Formats()) {
+    CheckText(Written(format.write, report, report::Colour::Never), reportCase);
+  }
   const std::string json = Written(report::WriteJson, report, report::Colour::Never);
-  CheckText(json, reportCase);
   CheckJson(json, reportCase);
   Check(!HasControls(json), "a JSON report has no control characters");
+  CheckReadBack(report, json);
+  CheckTables(reportCase);
   const auto colour = reportCase.colours ? report::Colour::Terminal : report::Colour::Never;
   std::string table = Written(report::WriteTable, report, colour);
   CheckText(table, reportCase);
@@ -136,6 +204,18 @@ int FuzzReport(const std::uint8_t* data, std::size_t size) {
     if (reportCase.colours) table = Without(table, colours);
   }
   Check(!HasControls(table), "a table has no control characters");
+}
+
+}  // namespace
+
+int FuzzReport(const std::uint8_t* data, std::size_t size) {
+  ReportCase reportCase = DecodeReport({data, size});
+  MarkSecrets(reportCase);
+  try {
+    CheckFormats(reportCase);
+  } catch (const std::exception& error) {
+    Check(false, error.what());
+  }
   return 0;
 }
 

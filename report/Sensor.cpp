@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cmath>
 #include <limits>
 #include <memory>
 #include <system_error>
@@ -118,6 +119,11 @@ std::optional<double> ReadingValue(const Sensor& sensor) {
     return sensor.reading.front() == '-' ? -size : size;
   }
   return value;
+}
+
+bool ReadingFitsDouble(const Sensor& sensor) {
+  const std::optional<double> value = ReadingValue(sensor);
+  return value && std::isfinite(*value);
 }
 
 std::string ReadingForPeople(const Sensor& sensor) {

@@ -56,6 +56,9 @@ Sensor SensorOf(const SilentSensor& silent);
 
 // The reading's value, for comparison and drawing; empty without a reading.
 std::optional<double> ReadingValue(const Sensor& sensor);
+// Whether there is a reading that programs, which keep numbers as doubles, can
+// take in.
+bool ReadingFitsDouble(const Sensor& sensor);
 
 // Both safe to show: "no answer" of a sensor that gave none, "no reading" when
 // there is none in it; of a unit without a sign "unit 7".

@@ -202,7 +202,7 @@ TEST(CommandLine, RefusesWhatItDoesNotKnow) {
     std::string expected;
   };
   const std::vector<Case> cases = {
-      {{}, "a subcommand was expected: collect, check, diff, classes, help or version"},
+      {{}, "a subcommand was expected: collect, check, diff, schema, classes, help or version"},
       {{"gather"}, "there is no subcommand 'gather'"},
       {{""}, "there is no subcommand ''"},
       {{"colect", "--server", "s"}, "there is no subcommand 'colect', did you mean 'collect'?"},
@@ -316,6 +316,22 @@ TEST(CommandLine, TakesTwoReportsToCompare) {
   }
 }
 
+TEST(CommandLine, TakesEveryFormOfTheSchema) {
+  EXPECT_EQ(std::get<app::SchemaOptions>(Parse({"schema"})).format->name, "mof");
+  const std::string help = std::get<app::TextAnswer>(Parse({"schema", "--help"})).text;
+  for (const schema::Format& format : schema::Formats()) {
+    const std::string name(format.name);
+    const auto options =
+        std::get<app::SchemaOptions>(Parse({"schema", "--format", name.c_str(), "--output", "o"}));
+    EXPECT_EQ(options.format, &format);
+    EXPECT_EQ(options.output, "o");
+    EXPECT_NE(help.find(name), std::string::npos);
+  }
+  EXPECT_EQ(RefusalOf({"schema", "--format", "json"}),
+            "--format: there is no format 'json', expected " + schema::FormatNames() +
+                " (see strake schema --help)");
+}
+
 TEST(CommandLine, RefusesOptionsThatContradictEachOther) {
   for (const Words& words :
        {Words{"collect", "--server", "s", "--demo", "demo-orlo"},
@@ -369,7 +385,8 @@ TEST(CommandLine, TakesHelpAndVersionAsWords) {
   const auto text = [](const Words& words) { return std::get<app::TextAnswer>(Parse(words)).text; };
   EXPECT_EQ(text({"help"}), text({"--help"}));
   EXPECT_EQ(text({"version"}), text({"--version"}));
-  for (const char* const subject : {"collect", "check", "diff", "classes", "help", "version"}) {
+  for (const char* const subject :
+       {"collect", "check", "diff", "schema", "classes", "help", "version"}) {
     EXPECT_EQ(text({"help", subject}), text({subject, "--help"}));
     EXPECT_NE(text({"help", subject}), text({"help"}));
     EXPECT_NE(text({"help", subject}).find(std::string("Usage: strake ") + subject),

@@ -1,6 +1,7 @@
 // The command from outside: what it prints and how it ends.
 #include "report/Formats.h"
 #include "report/Timestamp.h"
+#include "schema/Formats.h"
 #include "tests/app/Command.h"
 #include "tests/support/TemporaryFolder.h"
 
@@ -362,6 +363,32 @@ TEST_F(CommandTest, AsksEachOfAHundredAndThirtyServiceProcessorsWithoutACount) {
   EXPECT_NE(outcome.out.find("SRV1:Node130\n"), std::string::npos);
   EXPECT_NE(outcome.out.find("\n130 instances, 1 query, 130 service processors\n"),
             std::string::npos);
+}
+
+TEST_F(CommandTest, HoldsTheClockOfAServiceProcessorBesideTheHosts) {
+  const auto page = [this](const std::string& localTime) {
+    std::string text = kServer;
+    text.insert(1, "\"local_time\": \"" + localTime + "\", ");
+    return Strake({"collect", "--class", "system", "--format", "html", "--server",
+                   fFolder.Write("clock", text)})
+        .out;
+  };
+  EXPECT_NE(page("20100615154533.000000+000").find("3 s behind"), std::string::npos);
+  EXPECT_NE(page("20100615134525.000000-120").find("5 s ahead"), std::string::npos);
+}
+
+TEST_F(CommandTest, WritesEveryFormOfTheSchema) {
+  for (const schema::Format& format : schema::Formats()) {
+    const std::string name(format.name);
+    EXPECT_EQ(Strake({"schema", "--format", name}), (Outcome{0, format.write(), ""}));
+    EXPECT_EQ(Strake({"schema", "--format", name, "--output", fFolder / "schema"}),
+              (Outcome{0, "", ""}));
+    EXPECT_EQ(ReadFile(fFolder / "schema"), format.write());
+  }
+  const Outcome refused = Strake({"schema", "--output", fFolder / "none/schema"});
+  EXPECT_EQ(refused.status, 1);
+  EXPECT_EQ(refused.out, "");
+  EXPECT_EQ(std::count(refused.err.begin(), refused.err.end(), '\n'), 1);
 }
 
 TEST_F(CommandTest, PrintsHelpAndVersionOnStandardOutput) {

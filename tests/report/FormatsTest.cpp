@@ -8,14 +8,19 @@
 namespace strake::tests {
 namespace {
 
-TEST(Formats, AreTableAndJson) {
+TEST(Formats, AreThese) {
   const struct {
     std::string name;
     std::string ending;
     std::string mediaType;
+    report::Classes classes = report::Classes::Any;
   } expected[] = {
       {"table", ".txt", "text/plain; charset=utf-8"},
       {"json", ".json", "application/json"},
+      {"csv", ".csv", "text/csv; charset=utf-8", report::Classes::ExactlyOne},
+      {"html", ".html", "text/html; charset=utf-8"},
+      {"mof", ".mof", "text/plain; charset=utf-8"},
+      {"cimxml", ".xml", "application/xml; charset=utf-8"},
   };
   ASSERT_EQ(report::Formats().size(), std::size(expected));
   for (std::size_t i = 0; i < std::size(expected); ++i) {
@@ -23,8 +28,9 @@ TEST(Formats, AreTableAndJson) {
     EXPECT_EQ(format.name, expected[i].name);
     EXPECT_EQ(format.fileEnding, expected[i].ending);
     EXPECT_EQ(format.mediaType, expected[i].mediaType);
+    EXPECT_EQ(format.classes, expected[i].classes);
   }
-  EXPECT_EQ(report::FormatNames(), "table or json");
+  EXPECT_EQ(report::FormatNames(), "table, json, csv, html, mof or cimxml");
 }
 
 TEST(Formats, AreFoundByTheirNamesAndEndingsAndNoOthers) {

@@ -1,0 +1,96 @@
+#include "report/HtmlCards.h"
+#include "report/HtmlParts.h"
+#include "report/InstanceText.h"
+#include "report/ValueForPeople.h"
+
+#include <algorithm>
+
+namespace strake::report {
+namespace {
+
+constexpr std::string_view kFirstAuthority = "DenyAlways";
+constexpr std::string_view kLastAuthority = "AdvancedConfiguration";
+
+// What a login permits or is denied stands side by side in the catalogue.
+std::span<const cim::SchemaProperty> Authorities(const cim::SchemaClass& schema) {
+  const auto first =
+      std::ranges::find(schema.properties, kFirstAuthority, &cim::SchemaProperty::name);
+  const auto last =
+      std::ranges::find(first, schema.properties.end(), kLastAuthority, &cim::SchemaProperty::name);
+  return last == schema.properties.end() ? std::span<const cim::SchemaProperty>()
+                                         : std::span(first, last + 1);
+}
+
+constexpr std::array<std::string_view, 3> kFurther{"LoginFlags", "DialBackNumber", "LastLogin"};
+
+std::string ValueOf(const cim::StoredInstance& login, std::string_view property) {
+  const cim::Value* const value = cim::FindValue(login, property);
+  return value == nullptr ? "" : ValueForPeople(*value);
+}
+
+void AddHead(HtmlOut& out, const cim::SchemaClass& schema) {
+  out.Add("<thead><tr><th scope=\"col\">Login</th>"_html);
+  for (const cim::SchemaProperty& authority : Authorities(schema)) {
+    out.Add("<th scope=\"col\" class=\"turned\"><span>"_html, authority.label, "</span></th>"_html);
+  }
+  for (const std::string_view name : kFurther) {
+    const cim::SchemaProperty* const property = cim::FindSchemaProperty(schema, name);
+    out.Add("<th scope=\"col\">"_html, property == nullptr ? name : property->label, "</th>"_html);
+  }
+  out.Add("</tr></thead>"_html);
+}
+
+void AddAuthority(HtmlOut& out, const std::string& value) {
+  out.Add("<td class=\"authority\">"_html);
+  if (value == "Enabled") {
+    AddIcon(out, Icon::Yes);
+    AddNothing(out, value);
+  } else if (value == "Disabled") {
+    AddIcon(out, Icon::No);
+    AddNothing(out, value);
+  } else if (value.empty()) {
+    AddNothing(out, "not set");
+  } else {
+    out.Add(value);
+  }
+  out.Add("</td>"_html);
+}
+
+void AddLogin(HtmlOut& out, const cim::StoredInstance& login) {
+  out.Add("<tr data-find><th scope=\"row\">"_html, ValueOf(login, "LoginID"), " <small>"_html,
+          ValueOf(login, login.schema->number), "</small></th>"_html);
+  for (const cim::SchemaProperty& authority : Authorities(*login.schema)) {
+    AddAuthority(out, ValueOf(login, authority.name));
+  }
+  for (const std::string_view name : kFurther) {
+    const std::string value = ValueOf(login, name);
+    out.Add("<td>"_html);
+    if (value.empty()) {
+      AddNothing(out, "not set");
+    } else {
+      out.Add(value);
+    }
+    out.Add("</td>"_html);
+  }
+  out.Add("</tr>\n"_html);
+}
+
+}  // namespace
+
+bool IsLogin(const cim::StoredInstance& instance) { return !Authorities(*instance.schema).empty(); }
+
+void AddLogins(HtmlOut& out, Instances logins) {
+  out.Add("<div class=\"logins\" data-group><h4>Logins and what they permit</h4>"_html);
+  AddWideRegion(out, "Logins", "", SourceNode(*logins.front()));
+  out.Add("<table class=\"matrix\">"_html);
+  AddHead(out, *logins.front()->schema);
+  out.Add("<tbody>\n"_html);
+  for (const cim::StoredInstance* const login : logins) {
+    AddLogin(out, *login);
+  }
+  out.Add("</tbody></table></div>"_html);
+  AddCimProperties(out, logins);
+  out.Add("</div>\n"_html);
+}
+
+}  // namespace strake::report
