@@ -5,6 +5,7 @@
 #include "app/Server.h"
 #include "app/UnusedParts.h"
 #include "os/OutputFile.h"
+#include "text/InputError.h"
 #include "text/TextEscape.h"
 
 #include <string>
@@ -61,7 +62,7 @@ int Check(const CheckOptions& options) {
     try {
       const std::string name = file == kStandardInput ? "standard input" : file.string();
       os::WriteStandardOutput(Verdict(name, ReadServer(file)));
-    } catch (const platform::DescriptionError& error) {
+    } catch (const text::InputError& error) {
       TellError(error.what());
       status = kExitRefused;
     }

@@ -17,6 +17,7 @@ constexpr const char* kExamples = R"(Examples:
   strake collect --server rack7.server.json --class sensors --limits limits.toml
   strake collect --format json --output report.json --trace run.trace
   strake check rack7.server.json        is this server description fine?
+  strake diff yesterday.json today.json what changed?
 
 'strake help collect' and 'strake help check' say more.)";
 
@@ -47,6 +48,18 @@ Examples:
 
 Exit status: 0 all descriptions are fine, 2 one is refused, 1 the check itself
 failed.)";
+
+constexpr const char* kDiffExamples =
+    R"(Compares reports of 'strake collect --format json', instance by instance. Clocks
+that went on with the time between them are the same. A secret that differs is
+told and not shown.
+
+Examples:
+  strake diff yesterday.json today.json
+  strake collect --format json | strake diff yesterday.json - --tolerance 10
+
+Exit status: 0 no differences, 1 there are some, 2 wrong usage or a report that is
+refused.)";
 
 constexpr const char* kSchemaExamples =
     R"(Examples:
@@ -199,6 +212,11 @@ CommandLine ParseCommandLine(int argc, const char* const* argv) {
       ->allow_extra_args()
       ->check(RefuseEmptyName);
 
+  DiffOptions diff;
+  CLI::App& diffCommand = *app.add_subcommand("diff", "Compare two reports");
+  diffCommand.footer(kDiffExamples);
+  AddDiff(diffCommand, diff);
+
   SchemaOptions schema;
   CLI::App& schemaCommand =
       *app.add_subcommand("schema", "Describe the classes and the JSON report");
@@ -229,6 +247,10 @@ CommandLine ParseCommandLine(int argc, const char* const* argv) {
   }
   if (checkCommand.parsed()) {
     return check;
+  }
+  if (diffCommand.parsed()) {
+    CompleteDiff(diff);
+    return diff;
   }
   if (schemaCommand.parsed()) {
     return schema;

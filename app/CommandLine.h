@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/CollectOptions.h"
+#include "app/DiffOptions.h"
 #include "app/Schema.h"
 
 #include <filesystem>
@@ -20,7 +21,8 @@ struct TextAnswer {
   std::string text;
 };
 
-using CommandLine = std::variant<CollectOptions, CheckOptions, SchemaOptions, TextAnswer>;
+using CommandLine =
+    std::variant<CollectOptions, CheckOptions, DiffOptions, SchemaOptions, TextAnswer>;
 
 // Throws UsageError.
 CommandLine ParseCommandLine(int argc, const char* const* argv);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/CollectOptions.h"
+#include "app/DiffOptions.h"
 
 #include <CLI/CLI.hpp>
 #include <filesystem>
@@ -28,5 +29,9 @@ std::string RefuseEmptyName(const std::string& name);
 // they are taken. The second throws UsageError.
 void AddCollect(CLI::App& command, CollectOptions& options);
 void CompleteCollect(const CLI::App& command, CollectOptions& options);
+
+// The same of `diff`.
+void AddDiff(CLI::App& command, DiffOptions& options);
+void CompleteDiff(const DiffOptions& options);
 
 }  // namespace strake::app

@@ -6,9 +6,10 @@
 namespace strake::app {
 
 inline constexpr int kExitDone = 0;
-inline constexpr int kExitFailed = 1;    // the run failed
-inline constexpr int kExitRefused = 2;   // wrong usage, or an input that is refused
-inline constexpr int kExitFindings = 3;  // there are findings that --fail-on is about
+inline constexpr int kExitFailed = 1;       // the run failed
+inline constexpr int kExitDifferences = 1;  // of diff: there are some
+inline constexpr int kExitRefused = 2;      // wrong usage, or an input that is refused
+inline constexpr int kExitFindings = 3;     // there are findings that --fail-on is about
 
 // A command line that is refused: one line that says what was expected.
 class UsageError : public std::runtime_error {

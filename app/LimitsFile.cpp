@@ -3,6 +3,7 @@
 #include "app/NearestName.h"
 #include "app/Server.h"
 #include "os/InputFile.h"
+#include "text/InputError.h"
 #include "text/Quote.h"
 #include "text/TextEscape.h"
 
@@ -56,7 +57,8 @@ class Reader {
     report::Limits limits;
     const toml::node* const rules = table.get("limit");
     if (rules == nullptr) {
-      throw os::InputError(text::EscapeForPeople(*fName) + ": has no [[limit]], and so no limits");
+      throw text::InputError(text::EscapeForPeople(*fName) +
+                             ": has no [[limit]], and so no limits");
     }
     const toml::array* const array = rules->as_array();
     if (array == nullptr) {
@@ -74,14 +76,14 @@ class Reader {
 
  private:
   [[noreturn]] void Refuse(const toml::node& node, const std::string& expected) const {
-    throw os::InputError(Place(*fName, node.source()) + ": " + expected);
+    throw text::InputError(Place(*fName, node.source()) + ": " + expected);
   }
 
   void RefuseOtherKeys(const toml::table& table, std::span<const std::string_view> known) const {
     for (const auto& [key, value] : table) {
       if (std::ranges::find(known, key.str()) == known.end()) {
-        throw os::InputError(Place(*fName, key.source()) + ": there is no key " +
-                             text::Quoted(key.str()) + DidYouMean(key.str(), known));
+        throw text::InputError(Place(*fName, key.source()) + ": there is no key " +
+                               text::Quoted(key.str()) + DidYouMean(key.str(), known));
       }
     }
   }
@@ -160,8 +162,8 @@ report::Limits ParseLimits(std::string_view text, const std::string& name) {
   try {
     return Reader(name).Read(toml::parse(text));
   } catch (const toml::parse_error& error) {
-    throw os::InputError(Place(name, error.source()) + ": " +
-                         text::Printable(std::string(error.description())));
+    throw text::InputError(Place(name, error.source()) + ": " +
+                           text::Printable(std::string(error.description())));
   }
 }
 
@@ -171,7 +173,7 @@ report::Limits ReadLimits(const std::filesystem::path& file) {
   const std::string text = isStandardInput ? os::ReadInput(stdin, name, kMostLimitsBytes)
                                            : os::ReadInput(file, kMostLimitsBytes);
   if (text.size() > kMostLimitsBytes) {
-    throw os::InputError(text::EscapeForPeople(name) + ": a file of limits has at most 1 MiB");
+    throw text::InputError(text::EscapeForPeople(name) + ": a file of limits has at most 1 MiB");
   }
   return ParseLimits(text, name);
 }

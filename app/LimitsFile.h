@@ -9,7 +9,7 @@
 
 namespace strake::app {
 
-// Both throw os::InputError: one line with file, line and what was expected. "-"
+// Both throw text::InputError: one line with file, line and what was expected. "-"
 // is standard input.
 report::Limits ReadLimits(const std::filesystem::path& file);
 report::Limits ParseLimits(std::string_view text, const std::string& name);

@@ -2,6 +2,7 @@
 
 #include "app/BuiltInServers.h"
 #include "app/Errors.h"
+#include "text/InputError.h"
 
 #include <cstdio>
 #include <new>
@@ -47,7 +48,7 @@ Server ReadServer(const std::filesystem::path& file) {
 Server LoadBuiltInServer(const std::string& name) {
   const BuiltInServer* const server = FindBuiltInServer(name);
   if (server == nullptr) {
-    throw platform::DescriptionError(name + ": there is no built-in server of this name");
+    throw text::InputError(name + ": there is no built-in server of this name");
   }
   return Named(name, platform::ParseServerDescription(server->text, name));
 }

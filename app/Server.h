@@ -20,7 +20,7 @@ std::string_view KindName(platform::SpKind kind);
 
 inline constexpr const char* kStandardInput = "-";
 
-// Both throw platform::DescriptionError, and RunError when there is not enough
+// Both throw text::InputError, and RunError when there is not enough
 // memory.
 Server ReadServer(const std::filesystem::path& file);
 Server LoadBuiltInServer(const std::string& name);  // one that exists

@@ -2,14 +2,15 @@
 #include "app/Check.h"
 #include "app/Collect.h"
 #include "app/CommandLine.h"
+#include "app/Diff.h"
 #include "app/Errors.h"
 #include "app/Messages.h"
 #include "app/Schema.h"
-#include "os/InputFile.h"
 #include "os/OutputFile.h"
 #include "os/Signals.h"
 #include "os/Terminal.h"
 #include "platform/server/ServerDescription.h"
+#include "text/InputError.h"
 
 #include <exception>
 #include <new>
@@ -21,6 +22,7 @@ namespace {
 struct Runner {
   int operator()(const CollectOptions& options) const { return Collect(options); }
   int operator()(const CheckOptions& options) const { return Check(options); }
+  int operator()(const DiffOptions& options) const { return Diff(options); }
   int operator()(const SchemaOptions& options) const {
     WriteSchema(options);
     return kExitDone;
@@ -43,9 +45,7 @@ int Main(int argc, char** argv) {
     return std::visit(Runner(), ParseCommandLine(argc, argv));
   } catch (const UsageError& error) {
     return Fail(error.what(), kExitRefused);
-  } catch (const platform::DescriptionError& error) {
-    return Fail(error.what(), kExitRefused);
-  } catch (const os::InputError& error) {
+  } catch (const text::InputError& error) {
     return Fail(error.what(), kExitRefused);
   } catch (const std::bad_alloc&) {
     return Fail("out of memory", kExitFailed);

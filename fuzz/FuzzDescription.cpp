@@ -3,6 +3,7 @@
 #include "fuzz/RunServer.h"
 #include "platform/server/ServerDescription.h"
 #include "tests/support/WholeCollection.h"
+#include "text/InputError.h"
 
 #include <algorithm>
 #include <optional>
@@ -11,8 +12,8 @@
 namespace strake::fuzz {
 namespace {
 
-using platform::DescriptionError;
 using platform::ServerDescription;
+using text::InputError;
 
 constexpr std::string_view kSource = "fuzzed.server.json";
 constexpr std::size_t kLongestMessage = 1024;
@@ -27,7 +28,7 @@ void CheckMessage(std::string_view message) {
 std::optional<ServerDescription> Parse(std::string_view text) {
   try {
     return platform::ParseServerDescription(text, std::string(kSource));
-  } catch (const DescriptionError& error) {
+  } catch (const InputError& error) {
     CheckMessage(error.what());
     return std::nullopt;
   }

@@ -4,20 +4,13 @@
 #include <cstddef>
 #include <cstdio>
 #include <filesystem>
-#include <stdexcept>
 #include <string>
 
 namespace strake::os {
 
-// An input that cannot be read: "NAME: cannot be read: REASON", on one line.
-class InputError : public std::runtime_error {
- public:
-  using std::runtime_error::runtime_error;
-};
-
 // Gives more than `most` bytes when there are more, but not many: a device that
 // never ends and a huge file cost no more than the largest input. Throws
-// InputError.
+// text::InputError: "NAME: cannot be read: REASON", on one line.
 std::string ReadInput(const std::filesystem::path& file, std::size_t most);
 std::string ReadInput(std::FILE* stream, const std::string& name, std::size_t most);
 

@@ -1,4 +1,5 @@
 #include "os/InputFile.h"
+#include "text/InputError.h"
 #include "text/TextEscape.h"
 
 #include <cerrno>
@@ -14,8 +15,8 @@ struct Closer {
 };
 
 [[noreturn]] void Refuse(const std::string& name, int error) {
-  throw InputError(text::EscapeForPeople(name) +
-                   ": cannot be read: " + std::generic_category().message(error));
+  throw text::InputError(text::EscapeForPeople(name) +
+                         ": cannot be read: " + std::generic_category().message(error));
 }
 
 }  // namespace

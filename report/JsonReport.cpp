@@ -1,5 +1,6 @@
 #include "report/JsonReport.h"
 
+#include "report/JsonValue.h"
 #include "report/Timestamp.h"
 #include "text/TextEscape.h"
 
@@ -10,17 +11,6 @@ namespace strake::report {
 namespace {
 
 using Json = nlohmann::ordered_json;
-
-Json ValueOf(const cim::Value& value) {
-  struct Values {
-    Json operator()(const std::string& text) const { return text::ToValidUtf8(text); }
-    Json operator()(const cim::DateTime& dateTime) const {
-      return text::ToValidUtf8(dateTime.Text());
-    }
-    Json operator()(int number) const { return number; }
-  };
-  return std::visit(Values{}, value);
-}
 
 Json HeadOf(const CollectionFacts& facts) {
   return {{"format", "strake-report/1"},
@@ -35,7 +25,7 @@ Json HeadOf(const CollectionFacts& facts) {
 Json InstanceOf(const cim::StoredInstance& instance) {
   Json properties = Json::object();
   for (const cim::StoredProperty& property : instance.properties) {
-    properties.emplace(property.schema->name, ValueOf(property.value));
+    properties.emplace(property.schema->name, JsonValue(property.value));
   }
   Json object;
   object["class"] = instance.schema->name;

@@ -1,5 +1,6 @@
 #include "report/Timestamp.h"
 
+#include <array>
 #include <cstddef>
 
 namespace strake::report {
@@ -29,6 +30,33 @@ std::string Timestamp(std::chrono::sys_seconds moment) {
   out += ':';
   AppendDigits(out, 2, time.seconds().count());
   return out + 'Z';
+}
+
+std::optional<std::chrono::sys_seconds> ParseTimestamp(std::string_view text) {
+  constexpr std::string_view kForm = "0000-00-00T00:00:00Z";
+  if (text.size() != kForm.size()) {
+    return std::nullopt;
+  }
+  std::array<int, 6> fields{};  // year, month, day, hour, minute, second
+  std::size_t field = 0;
+  for (std::size_t i = 0; i < kForm.size(); ++i) {
+    const bool isDigit = text[i] >= '0' && text[i] <= '9';
+    if (kForm[i] == '0' ? !isDigit : text[i] != kForm[i]) {
+      return std::nullopt;
+    }
+    if (isDigit) {
+      fields.at(field) = fields.at(field) * 10 + (text[i] - '0');
+    } else {
+      ++field;
+    }
+  }
+  using namespace std::chrono;  // NOLINT(google-build-using-namespace)
+  const year_month_day date{year(fields[0]), month(static_cast<unsigned int>(fields[1])),
+                            day(static_cast<unsigned int>(fields[2]))};
+  if (!date.ok() || fields[3] > 23 || fields[4] > 59 || fields[5] > 59) {
+    return std::nullopt;
+  }
+  return sys_days(date) + hours(fields[3]) + minutes(fields[4]) + seconds(fields[5]);
 }
 
 }  // namespace strake::report

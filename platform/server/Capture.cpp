@@ -88,7 +88,7 @@ bool IsDateTime(std::string_view text) {
 
 }  // namespace
 
-void CheckCapture(const Field& field) {
+void CheckCapture(const json::Field& field) {
   field.AllowKeys({"source", "at", "notes"});
   if (const auto source = field.Find("source")) {
     static_cast<void>(source->Text());
@@ -97,7 +97,7 @@ void CheckCapture(const Field& field) {
     at->Refuse("a date-time such as 2026-03-01T09:41:27Z");
   }
   if (const auto notes = field.Find("notes")) {
-    notes->ForEachItem([](const Field& note) { static_cast<void>(note.Text()); });
+    notes->ForEachItem([](const json::Field& note) { static_cast<void>(note.Text()); });
   }
 }
 

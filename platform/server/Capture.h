@@ -1,11 +1,11 @@
 // Where a description comes from: "capture" tells people, and changes no answer.
 #pragma once
 
-#include "platform/server/Field.h"
+#include "json/Field.h"
 
 namespace strake::platform {
 
-// Throws DescriptionError.
-void CheckCapture(const Field& field);
+// Throws text::InputError.
+void CheckCapture(const json::Field& field);
 
 }  // namespace strake::platform

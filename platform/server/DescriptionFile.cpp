@@ -3,26 +3,12 @@
 #include "platform/server/ServerDescription.h"
 
 namespace strake::platform {
-namespace {
-
-// What cannot be read is refused like any other description.
-template <typename Source, typename... Name>
-std::string Read(const Source& source, const Name&... name) {
-  try {
-    return os::ReadInput(source, name..., kMostDescriptionBytes);
-  } catch (const os::InputError& error) {
-    throw DescriptionError(error.what());
-  }
-}
-
-}  // namespace
-
 ServerDescription ReadServerDescription(const std::filesystem::path& file) {
-  return ParseServerDescription(Read(file), file.string());
+  return ParseServerDescription(os::ReadInput(file, kMostDescriptionBytes), file.string());
 }
 
 ServerDescription ReadServerDescription(std::FILE* stream, const std::string& source) {
-  return ParseServerDescription(Read(stream, source), source);
+  return ParseServerDescription(os::ReadInput(stream, source, kMostDescriptionBytes), source);
 }
 
 }  // namespace strake::platform

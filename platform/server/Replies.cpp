@@ -8,7 +8,7 @@
 namespace strake::platform {
 namespace {
 
-std::string ReadBytes(const Field& field) {
+std::string ReadBytes(const json::Field& field) {
   std::optional<std::string> bytes;
   if (field.IsText()) {
     bytes = text::ParseHexBytes(field.Text());
@@ -19,12 +19,12 @@ std::string ReadBytes(const Field& field) {
   return *bytes;
 }
 
-unsigned char ReadByte(const Field& element, const char* key, int otherwise) {
-  const std::optional<Field> field = element.Find(key);
+unsigned char ReadByte(const json::Field& element, const char* key, int otherwise) {
+  const std::optional<json::Field> field = element.Find(key);
   return static_cast<unsigned char>(field ? field->Integer(0, 255) : otherwise);
 }
 
-std::string ReadPlainElement(const Field& element, const Field& data) {
+std::string ReadPlainElement(const json::Field& element, const json::Field& data) {
   const std::string bytes = ReadBytes(data);
   if (bytes.size() > kMostElementData) {
     data.RefuseGot("at most 255 bytes of data", std::to_string(bytes.size()));
@@ -32,7 +32,7 @@ std::string ReadPlainElement(const Field& element, const Field& data) {
   return PlainElement(ReadByte(element, "id", 0), ReadByte(element, "header", 0), bytes);
 }
 
-std::string ReadStringElement(const Field& element, const Field& text) {
+std::string ReadStringElement(const json::Field& element, const json::Field& text) {
   const std::string& bytes = text.Text();
   if (bytes.size() > kMostElementText) {
     text.RefuseGot("at most 253 bytes of text", std::to_string(bytes.size()));
@@ -41,10 +41,10 @@ std::string ReadStringElement(const Field& element, const Field& text) {
                        ReadByte(element, "max", static_cast<int>(bytes.size()) + 1));
 }
 
-std::string ReadElement(const Field& element) {
+std::string ReadElement(const json::Field& element) {
   element.AllowKeys({"id", "header", "data", "text", "max"});
-  const std::optional<Field> data = element.Find("data");
-  const std::optional<Field> text = element.Find("text");
+  const std::optional<json::Field> data = element.Find("data");
+  const std::optional<json::Field> text = element.Find("text");
   if (data.has_value() == text.has_value()) {
     element.RefuseGot("either \"data\" or \"text\"", data ? "both" : "neither");
   }
@@ -59,23 +59,23 @@ std::string ReadElement(const Field& element) {
 
 Reply Success(const std::string& bytes) { return {bytes, static_cast<int>(bytes.size()), true}; }
 
-Reply ReadElements(const Field& elements) {
+Reply ReadElements(const json::Field& elements) {
   std::string record;
-  elements.ForEachItem([&](const Field& element) { record += ReadElement(element); });
+  elements.ForEachItem([&](const json::Field& element) { record += ReadElement(element); });
   return Success(record);
 }
 
-Reply ReadReplyObject(const Field& field) {
-  if (const std::optional<Field> text = field.Find("text")) {
+Reply ReadReplyObject(const json::Field& field) {
+  if (const std::optional<json::Field> text = field.Find("text")) {
     field.AllowKeys({"text"});
     return Success(text->Text());
   }
-  if (const std::optional<Field> elements = field.Find("elements")) {
+  if (const std::optional<json::Field> elements = field.Find("elements")) {
     field.AllowKeys({"elements"});
     return ReadElements(*elements);
   }
   field.AllowKeys({"hex", "length", "succeeds"});
-  const std::optional<Field> hex = field.Find("hex");
+  const std::optional<json::Field> hex = field.Find("hex");
   Reply reply = Success(hex ? ReadBytes(*hex) : std::string());
   if (const auto length = field.Find("length")) {
     reply.length = length->Integer(INT32_MIN, INT32_MAX);
@@ -86,7 +86,7 @@ Reply ReadReplyObject(const Field& field) {
   return reply;
 }
 
-Reply ReadReply(const Field& field) {
+Reply ReadReply(const json::Field& field) {
   if (field.IsText()) {
     return Success(ReadBytes(field));
   }
@@ -98,7 +98,7 @@ Reply ReadReply(const Field& field) {
 
 }  // namespace
 
-ReplySequence ReadReplies(const Field& field) {
+ReplySequence ReadReplies(const json::Field& field) {
   if (!field.IsArray()) {
     return {ReadReply(field)};
   }
@@ -106,7 +106,7 @@ ReplySequence ReadReplies(const Field& field) {
     field.RefuseGot("at least one reply", "an empty array");
   }
   ReplySequence replies;
-  field.ForEachItem([&](const Field& item) { replies.push_back(ReadReply(item)); });
+  field.ForEachItem([&](const json::Field& item) { replies.push_back(ReadReply(item)); });
   return replies;
 }
 

@@ -1,11 +1,12 @@
 #include "platform/server/ServerDescription.h"
 
 #include "cim/DateTimeText.h"
+#include "json/Field.h"
+#include "json/Reader.h"
 #include "platform/server/Capture.h"
-#include "platform/server/Field.h"
-#include "platform/server/JsonReader.h"
 #include "platform/server/Replies.h"
 #include "text/DotNotation.h"
+#include "text/InputError.h"
 #include "text/Quote.h"
 #include "text/TextEscape.h"
 
@@ -18,14 +19,14 @@ namespace {
 
 constexpr const char* kFormat = "strake-server/1";
 
-void CheckFormat(const Field& root) {
-  const Field format = root.Require("format");
+void CheckFormat(const json::Field& root) {
+  const json::Field format = root.Require("format");
   if (format.Text() != kFormat) {
     format.Refuse(text::Quoted(kFormat));
   }
 }
 
-HostAnswer ReadHostAnswer(const Field& field) {
+HostAnswer ReadHostAnswer(const json::Field& field) {
   if (field.IsText()) {
     return {field.Text(), false};
   }
@@ -36,7 +37,7 @@ HostAnswer ReadHostAnswer(const Field& field) {
   return {field.Require("throws").Text(), true};
 }
 
-NVELKZEV20::TCIMDateTime ReadDateTime(const Field& field) {
+NVELKZEV20::TCIMDateTime ReadDateTime(const json::Field& field) {
   try {
     return cim::ParseDateTime(field.Text());
   } catch (const std::out_of_range& error) {
@@ -44,7 +45,7 @@ NVELKZEV20::TCIMDateTime ReadDateTime(const Field& field) {
   }
 }
 
-HostSettings ReadHost(const Field& root) {
+HostSettings ReadHost(const json::Field& root) {
   HostSettings host;
   if (const auto field = root.Find("machine_type_model")) {
     host.machineTypeModel = ReadHostAnswer(*field);
@@ -61,7 +62,7 @@ HostSettings ReadHost(const Field& root) {
   return host;
 }
 
-SpKind ReadKind(const Field& field) {
+SpKind ReadKind(const json::Field& field) {
   constexpr std::array<std::pair<std::string_view, SpKind>, 4> kKinds{{
       {"orlo", SpKind::Orlo},
       {"tavit", SpKind::Tavit},
@@ -78,9 +79,9 @@ SpKind ReadKind(const Field& field) {
   field.Refuse("\"orlo\", \"tavit\", \"both\" or \"none\"");
 }
 
-std::map<Identifier, int> ReadComponents(const Field& field) {
+std::map<Identifier, int> ReadComponents(const json::Field& field) {
   std::map<Identifier, int> components;
-  field.ForEachMember([&](const std::string& key, const Field& count) {
+  field.ForEachMember([&](const std::string& key, const json::Field& count) {
     std::optional<Identifier> identifier = text::ParseDotNotation(key);
     if (!identifier || identifier->size() != 5) {
       field.RefuseGot("component identifiers of five bytes in dot notation", text::Quoted(key));
@@ -99,9 +100,9 @@ std::map<Identifier, int> ReadComponents(const Field& field) {
   return components;
 }
 
-std::map<Identifier, ReplySequence> ReadDotCommands(const Field& field) {
+std::map<Identifier, ReplySequence> ReadDotCommands(const json::Field& field) {
   std::map<Identifier, ReplySequence> commands;
-  field.ForEachMember([&](const std::string& key, const Field& replies) {
+  field.ForEachMember([&](const std::string& key, const json::Field& replies) {
     const std::optional<Identifier> identifier = text::ParseDotNotation(key);
     if (!identifier) {
       field.RefuseGot("commands in dot notation, such as 4.4.1", text::Quoted(key));
@@ -111,9 +112,9 @@ std::map<Identifier, ReplySequence> ReadDotCommands(const Field& field) {
   return commands;
 }
 
-std::vector<std::map<Identifier, ReplySequence>> ReadInstances(const Field& field) {
+std::vector<std::map<Identifier, ReplySequence>> ReadInstances(const json::Field& field) {
   std::vector<std::map<Identifier, ReplySequence>> instances;
-  field.ForEachItem([&](const Field& instance) {
+  field.ForEachItem([&](const json::Field& instance) {
     instance.AllowKeys({"dot_commands"});
     const auto commands = instance.Find("dot_commands");
     instances.push_back(commands ? ReadDotCommands(*commands)
@@ -122,9 +123,9 @@ std::vector<std::map<Identifier, ReplySequence>> ReadInstances(const Field& fiel
   return instances;
 }
 
-std::map<unsigned char, ReplySequence> ReadKestleCommands(const Field& field) {
+std::map<unsigned char, ReplySequence> ReadKestleCommands(const json::Field& field) {
   std::map<unsigned char, ReplySequence> commands;
-  field.ForEachMember([&](const std::string& key, const Field& replies) {
+  field.ForEachMember([&](const std::string& key, const json::Field& replies) {
     const std::optional<unsigned char> code = text::ParseDecimalByte(key);
     if (!code) {
       field.RefuseGot("command codes 0 to 255 in decimal", text::Quoted(key));
@@ -134,7 +135,7 @@ std::map<unsigned char, ReplySequence> ReadKestleCommands(const Field& field) {
   return commands;
 }
 
-SpDescription ReadSp(const Field& field) {
+SpDescription ReadSp(const json::Field& field) {
   field.AllowKeys({"kind", "communicates", "count", "management_server_stopped", "dorn_library",
                    "latency_ms", "command_list", "components", "instances", "kestle_commands"});
   SpDescription sp;
@@ -173,11 +174,11 @@ SpDescription ReadSp(const Field& field) {
 ServerDescription ParseServerDescription(std::string_view text, const std::string& source) {
   const std::string name = text::EscapeForPeople(source);
   if (text.size() > kMostDescriptionBytes) {
-    throw DescriptionError(name + ": expected at most " + std::to_string(kMostDescriptionBytes) +
+    throw text::InputError(name + ": expected at most " + std::to_string(kMostDescriptionBytes) +
                            " bytes, got more");
   }
-  const JsonValue json = ReadJson(text, name);
-  const Field root(json, name);
+  const json::Value value = json::Read(text, name, {kDeepestDescription, kMostDescriptionValues});
+  const json::Field root(value, name);
   if (!root.IsObject()) {
     root.Refuse("an object");
   }

@@ -8,7 +8,6 @@
 #include <cstddef>
 #include <cstdio>
 #include <filesystem>
-#include <stdexcept>
 #include <string>
 #include <string_view>
 
@@ -20,20 +19,13 @@ struct ServerDescription {
   SpDescription sp;
 };
 
-// A description that is refused: one line that names the source, the line or
-// the JSON pointer, and what was expected.
-class DescriptionError : public std::runtime_error {
- public:
-  using std::runtime_error::runtime_error;
-};
-
 inline constexpr std::size_t kMostDescriptionBytes = std::size_t{16} * 1024 * 1024;
 inline constexpr int kDeepestDescription = 64;
 // Keeps what a description costs in memory far under 256 MiB, however small its
 // values are.
 inline constexpr std::size_t kMostDescriptionValues = 400'000;
 
-// Throws DescriptionError; `source` names the text in its message.
+// All throw text::InputError; `source` names the text in its message.
 ServerDescription ParseServerDescription(std::string_view text, const std::string& source);
 ServerDescription ReadServerDescription(const std::filesystem::path& file);
 ServerDescription ReadServerDescription(std::FILE* stream, const std::string& source);

@@ -202,7 +202,7 @@ TEST(CommandLine, RefusesWhatItDoesNotKnow) {
     std::string expected;
   };
   const std::vector<Case> cases = {
-      {{}, "a subcommand was expected: collect, check, schema, classes, help or version"},
+      {{}, "a subcommand was expected: collect, check, diff, schema, classes, help or version"},
       {{"gather"}, "there is no subcommand 'gather'"},
       {{""}, "there is no subcommand ''"},
       {{"colect", "--server", "s"}, "there is no subcommand 'colect', did you mean 'collect'?"},
@@ -280,6 +280,42 @@ TEST(CommandLine, RefusesWhatItDoesNotKnow) {
   }
 }
 
+TEST(CommandLine, TakesTwoReportsToCompare) {
+  const auto options = std::get<app::DiffOptions>(Parse({"diff", "a", "-"}));
+  EXPECT_EQ(options.before, "a");
+  EXPECT_EQ(options.after, "-");
+  EXPECT_EQ(options.tolerancePercent, 0);
+  EXPECT_EQ(options.write, compare::WriteDiffTable);
+  EXPECT_FALSE(options.output);
+  const auto more = std::get<app::DiffOptions>(
+      Parse({"diff", "--tolerance", "2.5", "a", "b", "--format", "json", "--output", "o"}));
+  EXPECT_EQ(more.tolerancePercent, 2.5);
+  EXPECT_EQ(more.write, compare::WriteDiffJson);
+  EXPECT_EQ(more.output, "o");
+  const struct {
+    Words words;
+    std::string expected;
+  } cases[] = {
+      {{}, "before is required"},
+      {{"a"}, "after is required"},
+      {{"a", "b", "c"}, "nothing takes the word 'c'"},
+      {{"-", "-"}, "both reports are standard input"},
+      {{"a", ""}, "after: the name of a file was expected"},
+      {{"a", "b", "--format", "csv"}, "--format: there is no format 'csv', expected table or json"},
+      {{"a", "b", "--tolerance", "-1"},
+       "--tolerance: '-1' is no percentage, expected a number from 0"},
+      {{"a", "b", "--tolerance", "5%"},
+       "--tolerance: '5%' is no percentage, expected a number from 0"},
+      {{"a", "b", "--tolerance", "inf"},
+       "--tolerance: 'inf' is no percentage, expected a number from 0"},
+  };
+  for (const auto& one : cases) {
+    Words words = one.words;
+    words.insert(words.begin(), "diff");
+    EXPECT_EQ(RefusalOf(words), one.expected + " (see strake diff --help)");
+  }
+}
+
 TEST(CommandLine, TakesEveryFormOfTheSchema) {
   EXPECT_EQ(std::get<app::SchemaOptions>(Parse({"schema"})).format->name, "mof");
   const std::string help = std::get<app::TextAnswer>(Parse({"schema", "--help"})).text;
@@ -349,7 +385,8 @@ TEST(CommandLine, TakesHelpAndVersionAsWords) {
   const auto text = [](const Words& words) { return std::get<app::TextAnswer>(Parse(words)).text; };
   EXPECT_EQ(text({"help"}), text({"--help"}));
   EXPECT_EQ(text({"version"}), text({"--version"}));
-  for (const char* const subject : {"collect", "check", "schema", "classes", "help", "version"}) {
+  for (const char* const subject :
+       {"collect", "check", "diff", "schema", "classes", "help", "version"}) {
     EXPECT_EQ(text({"help", subject}), text({subject, "--help"}));
     EXPECT_NE(text({"help", subject}), text({"help"}));
     EXPECT_NE(text({"help", subject}).find(std::string("Usage: strake ") + subject),

@@ -1,8 +1,8 @@
 // The file of limits: what is taken, and what is refused with which line.
 #include "app/LimitsFile.h"
-#include "os/InputFile.h"
 #include "tests/support/Places.h"
 #include "tests/support/TemporaryFolder.h"
+#include "text/InputError.h"
 
 #include <gtest/gtest.h>
 
@@ -14,7 +14,7 @@ using report::LimitRule;
 std::string RefusalOf(const std::string& text) {
   try {
     static_cast<void>(app::ParseLimits(text, "limits.toml"));
-  } catch (const os::InputError& error) {
+  } catch (const text::InputError& error) {
     return error.what();
   }
   return "no refusal";
@@ -112,7 +112,7 @@ TEST(LimitsFile, RefusesWhatCannotBeReadOrIsTooLong) {
   const auto refusalOf = [](const std::string& file) -> std::string {
     try {
       static_cast<void>(app::ReadLimits(file));
-    } catch (const os::InputError& error) {
+    } catch (const text::InputError& error) {
       return error.what();
     }
     return "no refusal";

@@ -1,6 +1,7 @@
 // Whole inputs, and what is said of those that cannot be read.
 #include "os/InputFile.h"
 #include "tests/support/TemporaryFolder.h"
+#include "text/InputError.h"
 
 #include <gtest/gtest.h>
 #include <memory>
@@ -11,7 +12,7 @@ namespace {
 std::string RefusalOf(const std::string& file) {
   try {
     static_cast<void>(os::ReadInput(file, 1));
-  } catch (const os::InputError& error) {
+  } catch (const text::InputError& error) {
     return error.what();
   }
   return "no refusal";

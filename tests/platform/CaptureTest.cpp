@@ -1,5 +1,6 @@
 // "capture": where a description comes from.
 #include "platform/server/ServerDescription.h"
+#include "text/InputError.h"
 
 #include <gtest/gtest.h>
 #include <string>
@@ -12,7 +13,7 @@ std::string RefusalOf(const std::string& capture) {
     ParseServerDescription(
         R"({"format":"strake-server/1","capture":)" + capture + R"(,"sp":{"kind":"none"}})",
         "test");
-  } catch (const DescriptionError& error) {
+  } catch (const text::InputError& error) {
     return error.what();
   }
   return "taken";

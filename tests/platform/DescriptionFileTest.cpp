@@ -1,5 +1,6 @@
 #include "platform/server/ServerDescription.h"
 #include "tests/support/StepDown.h"
+#include "text/InputError.h"
 
 #include <cstdio>
 #include <filesystem>
@@ -33,7 +34,7 @@ class DescriptionFileTest : public testing::Test {
 std::string RefusalOf(const std::filesystem::path& file) {
   try {
     ReadServerDescription(file);
-  } catch (const DescriptionError& error) {
+  } catch (const text::InputError& error) {
     return error.what();
   }
   return "taken";
@@ -73,7 +74,7 @@ TEST_F(DescriptionFileTest, IsReadFromAStreamUnderTheNameThatItIsGiven) {
   const auto refusal = [&read](const std::filesystem::path& name, const char* mode) {
     try {
       read(name, mode);
-    } catch (const DescriptionError& error) {
+    } catch (const text::InputError& error) {
       return std::string(error.what());
     }
     return std::string("taken");

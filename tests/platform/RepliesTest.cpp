@@ -1,5 +1,6 @@
 #include "platform/server/ElementRecord.h"
 #include "platform/server/ServerDescription.h"
+#include "text/InputError.h"
 
 #include <gtest/gtest.h>
 #include <string>
@@ -18,7 +19,7 @@ ReplySequence Read(const std::string& json) {
 std::string RefusalOf(const std::string& json) {
   try {
     Read(json);
-  } catch (const DescriptionError& error) {
+  } catch (const text::InputError& error) {
     return error.what();
   }
   return "taken";

@@ -1,5 +1,6 @@
 #include "platform/server/ServerDescription.h"
 #include "text/DotNotation.h"
+#include "text/InputError.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -13,7 +14,7 @@ ServerDescription Parse(const std::string& json) { return ParseServerDescription
 std::string RefusalOf(const std::string& json) {
   try {
     Parse(json);
-  } catch (const DescriptionError& error) {
+  } catch (const text::InputError& error) {
     return error.what();
   }
   return "taken";
@@ -370,7 +371,7 @@ TEST(ServerDescription, NamesItsSourceOnOneLine) {
   try {
     ParseServerDescription("{}", "odd\nname\x1b.json");
     FAIL();
-  } catch (const DescriptionError& error) {
+  } catch (const text::InputError& error) {
     EXPECT_STREQ(error.what(),
                  "odd\\nname\\x1B.json: at the top level: expected the key \"format\", got none");
   }

@@ -1,16 +1,16 @@
-#include "platform/server/Field.h"
+#include "json/Field.h"
 
-#include "platform/server/JsonPointer.h"
-#include "platform/server/ServerDescription.h"
+#include "json/Pointer.h"
+#include "text/InputError.h"
 #include "text/Quote.h"
 
 #include <algorithm>
 #include <nlohmann/json.hpp>
 
-namespace strake::platform {
+namespace strake::json {
 namespace {
 
-std::string Describe(const JsonValue& value) {
+std::string Describe(const Value& value) {
   struct Describer {
     std::string operator()(std::nullptr_t /*none*/) const { return "null"; }
     std::string operator()(bool flag) const { return flag ? "true" : "false"; }
@@ -18,8 +18,8 @@ std::string Describe(const JsonValue& value) {
     std::string operator()(std::uint64_t number) const { return std::to_string(number); }
     std::string operator()(double number) const { return nlohmann::json(number).dump(); }
     std::string operator()(const std::string& text) const { return text::Quoted(text); }
-    std::string operator()(const JsonValue::Array& /*items*/) const { return "an array"; }
-    std::string operator()(const std::unique_ptr<JsonValue::Object>& /*members*/) const {
+    std::string operator()(const Value::Array& /*items*/) const { return "an array"; }
+    std::string operator()(const std::unique_ptr<Value::Object>& /*members*/) const {
       return "an object";
     }
   };
@@ -39,10 +39,9 @@ std::string Join(std::initializer_list<std::string_view> keys) {
 
 }  // namespace
 
-Field::Field(const JsonValue& value, const std::string& source)
-    : fValue(&value), fSource(&source) {}
+Field::Field(const Value& value, const std::string& source) : fValue(&value), fSource(&source) {}
 
-Field::Field(const JsonValue& value, const Field& parent, std::string_view token)
+Field::Field(const Value& value, const Field& parent, std::string_view token)
     : fValue(&value), fSource(parent.fSource), fPointer(parent.fPointer) {
   AppendToPointer(fPointer, token);
 }
@@ -86,16 +85,16 @@ double Field::Number(int lowest, int highest) const {
   return number;
 }
 
-const JsonValue::Object& Field::Members() const {
-  const JsonValue::Object* const members = fValue->AsObject();
+const Value::Object& Field::Members() const {
+  const Value::Object* const members = fValue->AsObject();
   if (members == nullptr) {
     Refuse("an object");
   }
   return *members;
 }
 
-const JsonValue::Array& Field::Items() const {
-  const JsonValue::Array* const items = fValue->AsArray();
+const Value::Array& Field::Items() const {
+  const Value::Array* const items = fValue->AsArray();
   if (items == nullptr) {
     Refuse("an array");
   }
@@ -137,7 +136,7 @@ std::size_t Field::ItemCount() const { return Items().size(); }
 
 void Field::ForEachItem(const std::function<void(const Field& item)>& visit) const {
   std::size_t place = 0;
-  for (const JsonValue& item : Items()) {
+  for (const Value& item : Items()) {
     visit(Field(item, *this, std::to_string(place++)));
   }
 }
@@ -149,8 +148,8 @@ void Field::Refuse(const std::string& expected, const std::string& reason) const
 }
 
 void Field::RefuseGot(const std::string& expected, const std::string& got) const {
-  throw DescriptionError(*fSource + ": at " + PrintablePointer(fPointer) + ": expected " +
+  throw text::InputError(*fSource + ": at " + PrintablePointer(fPointer) + ": expected " +
                          expected + ", got " + got);
 }
 
-}  // namespace strake::platform
+}  // namespace strake::json

@@ -1,9 +1,9 @@
-// A value within a description together with the place where it stands, so
+// A value within a JSON text together with the place where it stands, so
 // that every refusal can name it. Typed access refuses any other value; each
-// refusal throws DescriptionError.
+// refusal throws text::InputError.
 #pragma once
 
-#include "platform/server/JsonValue.h"
+#include "json/Value.h"
 
 #include <functional>
 #include <initializer_list>
@@ -11,12 +11,12 @@
 #include <string>
 #include <string_view>
 
-namespace strake::platform {
+namespace strake::json {
 
 class Field {
  public:
   // The whole text. Text and source must outlive every field made from them.
-  Field(const JsonValue& value, const std::string& source);
+  Field(const Value& value, const std::string& source);
 
   [[nodiscard]] bool IsText() const;
   [[nodiscard]] bool IsObject() const;
@@ -46,14 +46,14 @@ class Field {
   [[noreturn]] void RefuseGot(const std::string& expected, const std::string& got) const;
 
  private:
-  Field(const JsonValue& value, const Field& parent, std::string_view token);
+  Field(const Value& value, const Field& parent, std::string_view token);
 
-  [[nodiscard]] const JsonValue::Object& Members() const;  // refuses what is no object
-  [[nodiscard]] const JsonValue::Array& Items() const;     // refuses what is no array
+  [[nodiscard]] const Value::Object& Members() const;  // refuses what is no object
+  [[nodiscard]] const Value::Array& Items() const;     // refuses what is no array
 
-  const JsonValue* fValue;
+  const Value* fValue;
   const std::string* fSource;
   std::string fPointer;
 };
 
-}  // namespace strake::platform
+}  // namespace strake::json

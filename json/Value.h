@@ -9,11 +9,11 @@
 #include <variant>
 #include <vector>
 
-namespace strake::platform {
+namespace strake::json {
 
-struct JsonValue {
-  using Array = std::vector<JsonValue>;
-  using Object = std::map<std::string, JsonValue>;
+struct Value {
+  using Array = std::vector<Value>;
+  using Object = std::map<std::string, Value>;
 
   // An unsigned number is one that no std::int64_t holds. An object is never null.
   std::variant<std::nullptr_t, bool, std::int64_t, std::uint64_t, double, std::string, Array,
@@ -32,4 +32,4 @@ struct JsonValue {
   }
 };
 
-}  // namespace strake::platform
+}  // namespace strake::json

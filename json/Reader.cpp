@@ -1,7 +1,7 @@
-#include "platform/server/JsonReader.h"
+#include "json/Reader.h"
 
-#include "platform/server/JsonPointer.h"
-#include "platform/server/ServerDescription.h"
+#include "json/Pointer.h"
+#include "text/InputError.h"
 #include "text/Quote.h"
 
 #include <algorithm>
@@ -13,10 +13,8 @@
 #include <utility>
 #include <vector>
 
-namespace strake::platform {
+namespace strake::json {
 namespace {
-
-using nlohmann::json;
 
 // A text's characters, the white space between its values as blanks: the
 // library repeats in a message all that it read since the last string or number,
@@ -61,11 +59,12 @@ class Characters {
 };
 
 // Builds the values out of the library's parse events.
-class Builder : public nlohmann::json_sax<json> {
+class Builder : public nlohmann::json_sax<nlohmann::json> {
  public:
-  Builder(std::string_view text, const std::string& source) : fText(text), fSource(source) {}
+  Builder(std::string_view text, const std::string& source, const Bounds& bounds)
+      : fText(text), fSource(source), fBounds(bounds) {}
 
-  JsonValue Result() { return std::move(fRoot); }
+  Value Result() { return std::move(fRoot); }
 
   bool null() override { return Add({nullptr}); }
   bool boolean(bool value) override { return Add({value}); }
@@ -78,9 +77,9 @@ class Builder : public nlohmann::json_sax<json> {
   bool string(string_t& value) override { return Add({std::string(value)}); }
   bool binary(binary_t& /*value*/) override { return false; }  // JSON has none
   bool start_object(std::size_t /*elements*/) override {
-    return Open({std::make_unique<JsonValue::Object>()});
+    return Open({std::make_unique<Value::Object>()});
   }
-  bool start_array(std::size_t /*elements*/) override { return Open({JsonValue::Array()}); }
+  bool start_array(std::size_t /*elements*/) override { return Open({Value::Array()}); }
   bool end_object() override { return Close(); }
   bool end_array() override { return Close(); }
   bool key(string_t& value) override;
@@ -90,34 +89,35 @@ class Builder : public nlohmann::json_sax<json> {
  private:
   // An object or array that is not closed yet, and where its next value goes.
   struct OpenValue {
-    JsonValue* value;
+    Value* value;
     std::string key;
   };
 
-  JsonValue& Place(JsonValue&& value);
-  bool Add(JsonValue&& value);
-  bool Open(JsonValue&& value);
+  Value& Place(Value&& value);
+  bool Add(Value&& value);
+  bool Open(Value&& value);
   bool Close();
   [[nodiscard]] std::string Pointer() const;
 
   std::string_view fText;
   const std::string& fSource;
-  JsonValue fRoot;
+  Bounds fBounds;
+  Value fRoot;
   std::vector<OpenValue> fOpen;
   std::size_t fValues = 0;
 };
 
-JsonValue& Builder::Place(JsonValue&& value) {
-  if (++fValues > kMostDescriptionValues) {
-    throw DescriptionError(fSource + ": at " + PrintablePointer(Pointer()) + ": expected at most " +
-                           std::to_string(kMostDescriptionValues) +
+Value& Builder::Place(Value&& value) {
+  if (++fValues > fBounds.mostValues) {
+    throw text::InputError(fSource + ": at " + PrintablePointer(Pointer()) + ": expected at most " +
+                           std::to_string(fBounds.mostValues) +
                            " values in the whole text, got more");
   }
   if (fOpen.empty()) {
     return fRoot = std::move(value);
   }
-  JsonValue& parent = *fOpen.back().value;
-  if (JsonValue::Object* const object = parent.AsObject()) {
+  Value& parent = *fOpen.back().value;
+  if (Value::Object* const object = parent.AsObject()) {
     return (*object)[fOpen.back().key] = std::move(value);
   }
   return parent.AsArray()->emplace_back(std::move(value));
@@ -130,17 +130,17 @@ bool Builder::number_unsigned(number_unsigned_t value) {
   return Add({value});
 }
 
-bool Builder::Add(JsonValue&& value) {
+bool Builder::Add(Value&& value) {
   Place(std::move(value));
   return true;
 }
 
-bool Builder::Open(JsonValue&& value) {
-  if (fOpen.size() == static_cast<std::size_t>(kDeepestDescription)) {
-    throw DescriptionError(fSource + ": at " + PrintablePointer(Pointer()) + ": expected at most " +
-                           std::to_string(kDeepestDescription) + " levels of nesting, got more");
+bool Builder::Open(Value&& value) {
+  if (fOpen.size() == static_cast<std::size_t>(fBounds.deepest)) {
+    throw text::InputError(fSource + ": at " + PrintablePointer(Pointer()) + ": expected at most " +
+                           std::to_string(fBounds.deepest) + " levels of nesting, got more");
   }
-  JsonValue& placed = Place(std::move(value));
+  Value& placed = Place(std::move(value));
   fOpen.push_back({&placed, {}});
   return true;
 }
@@ -152,7 +152,7 @@ bool Builder::Close() {
 
 bool Builder::key(string_t& value) {
   if (fOpen.back().value->AsObject()->contains(value)) {
-    throw DescriptionError(fSource + ": at " + PrintablePointer(Pointer()) +
+    throw text::InputError(fSource + ": at " + PrintablePointer(Pointer()) +
                            ": expected each key once, got " + text::Quoted(value) + " twice");
   }
   fOpen.back().key = value;
@@ -164,7 +164,7 @@ std::string Builder::Pointer() const {
   std::string pointer;
   for (std::size_t i = 0; i + 1 < fOpen.size(); ++i) {
     const OpenValue& open = fOpen[i];
-    const JsonValue::Array* const array = open.value->AsArray();
+    const Value::Array* const array = open.value->AsArray();
     AppendToPointer(pointer, array == nullptr ? open.key : std::to_string(array->size() - 1));
   }
   return pointer;
@@ -193,21 +193,21 @@ std::string PlaceOf(std::string_view text, std::size_t offset) {
 
 bool Builder::parse_error(std::size_t position, const std::string& /*lastToken*/,
                           const nlohmann::detail::exception& error) {
-  throw DescriptionError(fSource + ": " + PlaceOf(fText, position == 0 ? 0 : position - 1) + ": " +
+  throw text::InputError(fSource + ": " + PlaceOf(fText, position == 0 ? 0 : position - 1) + ": " +
                          Reason(error.what()));
 }
 
 }  // namespace
 
-JsonValue ReadJson(std::string_view text, const std::string& source) {
+Value Read(std::string_view text, const std::string& source, const Bounds& bounds) {
   // The library would take a zero byte for the end of the text.
   if (const std::size_t zero = text.find('\0'); zero != std::string_view::npos) {
-    throw DescriptionError(source + ": " + PlaceOf(text, zero) +
+    throw text::InputError(source + ": " + PlaceOf(text, zero) +
                            ": expected text, got a zero byte");
   }
-  Builder builder(text, source);
-  json::sax_parse(Characters(text, 0), Characters(text, text.size()), &builder);
+  Builder builder(text, source, bounds);
+  nlohmann::json::sax_parse(Characters(text, 0), Characters(text, text.size()), &builder);
   return builder.Result();
 }
 
-}  // namespace strake::platform
+}  // namespace strake::json

@@ -1,8 +1,8 @@
-#include "platform/server/JsonPointer.h"
+#include "json/Pointer.h"
 
 #include "text/Quote.h"
 
-namespace strake::platform {
+namespace strake::json {
 
 void AppendToPointer(std::string& pointer, std::string_view token) {
   pointer += '/';
@@ -21,4 +21,4 @@ std::string PrintablePointer(std::string_view pointer) {
   return pointer.empty() ? "the top level" : text::Printable(pointer);
 }
 
-}  // namespace strake::platform
+}  // namespace strake::json

@@ -1,0 +1,78 @@
+// The options of `strake diff`.
+#include "app/CommandLineParts.h"
+#include "app/Errors.h"
+#include "app/Server.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <string_view>
+
+namespace strake::app {
+namespace {
+
+struct NamedWriter {
+  std::string_view name;
+  DiffWriter write;
+};
+
+constexpr std::array<NamedWriter, 2> kWriters{{
+    {"table", compare::WriteDiffTable},
+    {"json", compare::WriteDiffJson},
+}};
+
+// Null when there is none of this name.
+DiffWriter FindWriter(std::string_view name) {
+  const auto* const found = std::ranges::find(kWriters, name, &NamedWriter::name);
+  return found == kWriters.end() ? nullptr : found->write;
+}
+
+std::string RefuseWriter(const std::string& name) {
+  return FindWriter(name) != nullptr ? ""
+                                     : "there is no format '" + name + "', expected table or json";
+}
+
+std::optional<double> ParsePercent(const std::string& text) {
+  double percent = 0;
+  const char* const end = text.data() + text.size();
+  const auto [stop, error] = std::from_chars(text.data(), end, percent);
+  const bool isPercent =
+      error == std::errc() && stop == end && std::isfinite(percent) && percent >= 0;
+  return isPercent ? std::optional<double>(percent) : std::nullopt;
+}
+
+std::string RefusePercent(const std::string& text) {
+  return ParsePercent(text) ? "" : "'" + text + "' is no percentage, expected a number from 0";
+}
+
+}  // namespace
+
+void AddDiff(CLI::App& command, DiffOptions& options) {
+  AddValue(command, "before", "BEFORE", "A report as JSON; - is standard input",
+           [&options](const std::string& value) { options.before = value; })
+      ->required()
+      ->check(RefuseEmptyName);
+  AddValue(command, "after", "AFTER", "A later one",
+           [&options](const std::string& value) { options.after = value; })
+      ->required()
+      ->check(RefuseEmptyName);
+  AddValue(command, "--tolerance", "PERCENT",
+           "Readings that changed by no more are the same; default: 0",
+           [&options](const std::string& value) {
+             options.tolerancePercent = ParsePercent(value).value_or(0);
+           })
+      ->check(RefusePercent);
+  AddValue(command, "--format", "FORMAT", "table or json; default: table",
+           [&options](const std::string& value) { options.write = FindWriter(value); })
+      ->check(RefuseWriter);
+  AddFile(command, "--output", "Where the differences go; default: standard output",
+          options.output);
+}
+
+void CompleteDiff(const DiffOptions& options) {
+  if (options.before == kStandardInput && options.after == kStandardInput) {
+    throw UsageError("both reports are standard input (see strake diff --help)");
+  }
+}
+
+}  // namespace strake::app

@@ -1,0 +1,22 @@
+// Reads JSON with less mercy than the library does: a duplicate key, nesting
+// that is too deep and too many values are refused.
+#pragma once
+
+#include "json/Value.h"
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace strake::json {
+
+// What a text may cost.
+struct Bounds {
+  int deepest = 64;        // levels of nesting
+  std::size_t mostValues;  // in the whole text
+};
+
+// Throws text::InputError, which names the source and the place.
+Value Read(std::string_view text, const std::string& source, const Bounds& bounds);
+
+}  // namespace strake::json
