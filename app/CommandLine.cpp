@@ -4,6 +4,8 @@
 #include "app/CommandLineParts.h"
 #include "app/Errors.h"
 #include "app/NearestName.h"
+#include "app/Subcommands.h"
+#include "text/OrList.h"
 
 #include <algorithm>
 #include <utility>
@@ -18,54 +20,10 @@ constexpr const char* kExamples = R"(Examples:
   strake collect --format json --output report.json --trace run.trace
   strake check rack7.server.json        is this server description fine?
   strake diff yesterday.json today.json what changed?
+  strake classes                        what can be asked for
+  strake schema                         the same for CIM tools
 
-'strake help collect' and 'strake help check' say more.)";
-
-constexpr const char* kCollectExamples =
-    R"(Where a file is asked for, - is standard input or output.
-
-Examples:
-  strake collect
-  strake collect --class system --class sensors
-  strake collect --class sensors --format csv --output sensors.csv
-  strake collect --sensor 'fan*' --sort reading --limits limits.toml --fail-on warning
-  strake collect --query VELKSG_SP_ComputerSystem,VELKSG_SP_NumericSensor --query ""
-  strake collect --server rack7.server.json --format json --output report.json
-  strake collect --log run.log --trace run.trace
-
-Exit status: 0 the queries ran, 1 the run failed, 2 wrong usage or a refused input,
-3 with --fail-on: there is a finding of that severity or above.
-Traces and logs hold what the service processors said, passwords included; they
-are created with mode 0600.)";
-
-constexpr const char* kCheckExamples =
-    R"(Every file gets a line, and a further one for each thing in it that nothing
-will ask for; - is standard input.
-
-Examples:
-  strake check rack7.server.json
-  strake check servers/*.server.json
-
-Exit status: 0 all descriptions are fine, 2 one is refused, 1 the check itself
-failed.)";
-
-constexpr const char* kDiffExamples =
-    R"(Compares reports of 'strake collect --format json', instance by instance. Clocks
-that went on with the time between them are the same. A secret that differs is
-told and not shown.
-
-Examples:
-  strake diff yesterday.json today.json
-  strake collect --format json | strake diff yesterday.json - --tolerance 10
-
-Exit status: 0 no differences, 1 there are some, 2 wrong usage or a report that is
-refused.)";
-
-constexpr const char* kSchemaExamples =
-    R"(Examples:
-  strake schema                         the classes for CIM tools, in MOF
-  strake schema --format json-schema --output report.schema.json
-  strake schema --format markdown)";
+'strake help collect' says more, and so it is with the others.)";
 
 // CLI11 takes "--name=" for an option whose value follows. It is an empty value.
 std::vector<std::string> Words(int argc, const char* const* argv) {
@@ -102,15 +60,8 @@ std::string DidYouMeanCommand(const std::string& word, const CLI::App& app) {
 
 // For people: "collect, check, help or version".
 std::string CommandNames(const CLI::App& app) {
-  const auto commands = app.get_subcommands({});
-  std::string names;
-  for (const CLI::App* const command : commands) {
-    if (!names.empty()) {
-      names += command == commands.back() ? " or " : ", ";
-    }
-    names += command->get_name();
-  }
-  return names;
+  const std::vector<const CLI::App*> commands = app.get_subcommands({});
+  return text::OrList(commands, [](const CLI::App* command) { return command->get_name(); });
 }
 
 // What is wrong with a word that nothing took.
@@ -140,23 +91,6 @@ std::string RefusalOfWord(const std::string& word, const CLI::App& app) {
   }
   throw UsageError(refusal + " (see strake" + (&place == &app ? "" : " " + place.get_name()) +
                    " --help)");
-}
-
-void AddSchema(CLI::App& command, SchemaOptions& options) {
-  std::string contents;
-  for (const schema::Format& format : schema::Formats()) {
-    contents.append(contents.empty() ? "" : ", ").append(format.name);
-    contents.append(" (").append(format.content).append(1, ')');
-  }
-  AddValue(command, "--format", "FORMAT",
-           contents + "; default: " + std::string(schema::Formats().front().name),
-           [&options](const std::string& value) { options.format = schema::FindFormat(value); })
-      ->check([](const std::string& name) {
-        return schema::FindFormat(name) != nullptr
-                   ? ""
-                   : "there is no format '" + name + "', expected " + schema::FormatNames();
-      });
-  AddFile(command, "--output", "Where the text goes; default: standard output", options.output);
 }
 
 // Gives a text when one was asked for instead of work.
@@ -198,39 +132,21 @@ CommandLine ParseCommandLine(int argc, const char* const* argv) {
   app.require_subcommand(1);
 
   CollectOptions collect;
-  CLI::App& collectCommand = *app.add_subcommand("collect", "Query the plug-in, print a report");
-  collectCommand.footer(kCollectExamples);
-  AddCollect(collectCommand, collect);
-
+  const CLI::App& collectCommand = AddCollect(app, collect);
   CheckOptions check;
-  CLI::App& checkCommand = *app.add_subcommand("check", "Check server descriptions");
-  checkCommand.footer(kCheckExamples);
-  AddValue(checkCommand, "file", "FILE", "Server descriptions (*.server.json)",
-           [&check](const std::string& value) { check.files.emplace_back(value); })
-      ->required()
-      ->expected(1, CLI::detail::expected_max_vector_size)
-      ->allow_extra_args()
-      ->check(RefuseEmptyName);
-
+  const CLI::App& checkCommand = AddCheck(app, check);
   DiffOptions diff;
-  CLI::App& diffCommand = *app.add_subcommand("diff", "Compare two reports");
-  diffCommand.footer(kDiffExamples);
-  AddDiff(diffCommand, diff);
-
+  const CLI::App& diffCommand = AddDiff(app, diff);
   SchemaOptions schema;
-  CLI::App& schemaCommand =
-      *app.add_subcommand("schema", "Describe the classes and the JSON report");
-  schemaCommand.footer(kSchemaExamples);
-  AddSchema(schemaCommand, schema);
-
-  CLI::App& classesCommand =
+  const CLI::App& schemaCommand = AddSchema(app, schema);
+  const CLI::App& classesCommand =
       *app.add_subcommand("classes", "List the classes and their short names");
 
   std::string subject;
   CLI::App& helpCommand = *app.add_subcommand("help", "Say how strake or a subcommand is used");
   AddValue(helpCommand, "subcommand", "SUBCOMMAND", "One of the others",
            [&subject](const std::string& value) { subject = value; });
-  CLI::App& versionCommand = *app.add_subcommand("version", "Say which version this is");
+  const CLI::App& versionCommand = *app.add_subcommand("version", "Say which version this is");
   app.footer(kExamples);  // a subcommand that is added later would have it too
 
   if (std::optional<TextAnswer> answer = Parse(app, Words(argc, argv))) {

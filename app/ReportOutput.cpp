@@ -25,7 +25,7 @@ report::Layout LayoutOfTerminal(report::Layout layout) {
 void TellFindings(const report::Report& report) {
   for (const report::Finding& finding : report.Findings()) {
     if (finding.severity != report::Severity::Info) {
-      TellWarning(finding.text);
+      TellFinding(finding);
     }
   }
 }

@@ -6,6 +6,7 @@
 #include "report/JsonReport.h"
 #include "report/MofReport.h"
 #include "report/TableReport.h"
+#include "text/Glob.h"
 #include "text/OrList.h"
 
 #include <algorithm>
@@ -34,8 +35,9 @@ const Format* FindFormat(std::string_view name) {
 }
 
 const Format* FindFormatOfFile(std::string_view fileName) {
-  const auto* const found = std::ranges::find_if(
-      kFormats, [fileName](const Format& one) { return fileName.ends_with(one.fileEnding); });
+  const auto* const found = std::ranges::find_if(kFormats, [fileName](const Format& one) {
+    return text::MatchesGlob(std::string(1, '*').append(one.fileEnding), fileName);
+  });
   return found == std::end(kFormats) ? nullptr : found;
 }
 

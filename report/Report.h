@@ -84,13 +84,11 @@ class Report {
   [[nodiscard]] std::span<const Finding> Findings() const { return fCollected.findings; }
   // Whether limits were given, so that sensors have states.
   [[nodiscard]] bool HasStates() const { return fHasStates; }
-  [[nodiscard]] Secrets SecretsAre() const { return fSecrets; }
 
  private:
   Collected fCollected;
   std::vector<Sensor> fSensors;
   bool fHasStates;
-  Secrets fSecrets;
 };
 
 }  // namespace strake::report

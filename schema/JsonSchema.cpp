@@ -82,7 +82,12 @@ Json ClassSchema(const cim::SchemaClass& schema) {
     members["state"] = Described({{"enum", NamesOf(report::StateName, kStates)}},
                                  "How the reading stands to the limits that were given.");
   }
-  return {{"title", schema.title}, {"description", schema.description}, {"properties", members}};
+  Json object{
+      {"title", schema.title}, {"description", schema.description}, {"properties", members}};
+  if (schema.group == cim::QueryGroup::Sensors) {
+    object["required"] = {"unit"};
+  }
+  return object;
 }
 
 Json FindingSchema() {

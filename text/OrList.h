@@ -3,20 +3,22 @@
 
 #include <cstddef>
 #include <functional>
-#include <span>
+#include <iterator>
 #include <string>
 
 namespace strake::text {
 
 // "table, json or csv": of each row, what the function or member says.
-template <typename Row, typename Name>
-std::string OrList(std::span<const Row> rows, const Name& name) {
+template <typename Rows, typename Name>
+std::string OrList(const Rows& rows, const Name& name) {
   std::string list;
-  for (std::size_t i = 0; i < rows.size(); ++i) {
-    if (i > 0) {
-      list += i + 1 == rows.size() ? " or " : ", ";
+  std::size_t left = std::size(rows);
+  for (const auto& row : rows) {
+    if (!list.empty()) {
+      list += left == 1 ? " or " : ", ";
     }
-    list += std::invoke(name, rows[i]);
+    list += std::invoke(name, row);
+    --left;
   }
   return list;
 }

@@ -139,9 +139,9 @@ TEST(CommandLine, AsksForSensorsAloneWhenOnlySomeOfThemAreWanted) {
   using Names = std::vector<std::string>;
   EXPECT_EQ(Collect({"--sensor", "fan*"}).classes, Names{"VELKSG_SP_NumericSensor"});
   EXPECT_EQ(Collect({"--sensor", "fan*"}).selection.sensor, "fan*");
-  EXPECT_EQ(Collect({"--sensor", "fan*", "--class", "system"}).classes,
-            Names{"VELKSG_SP_ComputerSystem"});
-  EXPECT_EQ(Collect({"--sensor", "fan*", "--query", ""}).classes, Names{});
+  EXPECT_EQ(Collect({"--sensor", "fan*", "--class", "system", "--class", "sensors"}).classes,
+            (Names{"VELKSG_SP_ComputerSystem", "VELKSG_SP_NumericSensor"}));
+  EXPECT_EQ(Collect({"--sensor", "fan*", "--query", "VELKSG_SP_NumericSensor"}).classes, Names{});
 }
 
 TEST(CommandLine, TakesWhatIsSelectedAndHowItIsLaidOut) {
@@ -258,6 +258,11 @@ TEST(CommandLine, RefusesWhatItDoesNotKnow) {
        "--sort: the format json has no layout to choose, expected --format table"},
       {{"--output", "a.json", "--no-header"},
        "--no-header: the format json has no layout to choose, expected --format table"},
+      {{"--sensor", "fan*", "--class", "system"},
+       "--sensor: VELKSG_SP_NumericSensor is not asked for"},
+      {{"--sensor", "fan*", "--query", ""}, "--sensor: VELKSG_SP_NumericSensor is not asked for"},
+      {{"--filter", "dial-in.LoginID=*", "--class", "system"},
+       "--filter: VELKSG_ServProc_DialProtocolEndpoint2 is not asked for"},
       {{"--server", "-", "--limits", "-"}, "--server and --limits: both are standard input"},
       {{"--limits="}, "--limits: the name of a file was expected"},
       {{"--output", ""}, "--output: the name of a file was expected"},

@@ -6,6 +6,7 @@
 #include "tests/support/TemporaryFolder.h"
 
 #include <chrono>
+#include <filesystem>
 #include <gtest/gtest.h>
 #include <sstream>
 #include <unistd.h>
@@ -267,6 +268,7 @@ TEST_F(CommandTest, EndsWithThreeWhenAFindingIsAsGraveAsItIsToldToFailOn) {
        0},
   };
   for (const auto& one : cases) {
+    std::filesystem::remove(fFolder / "report");
     std::vector<std::string> words = {"collect", "--output", fFolder / "report", "--quiet"};
     words.insert(words.end(), one.words.begin(), one.words.end());
     EXPECT_EQ(Strake(words).status, one.status) << testing::PrintToString(one.words);
@@ -296,7 +298,8 @@ TEST_F(CommandTest, TellsFindingsOnStandardErrorWhereTheFormatHasNoPlaceForThem)
     const std::string expected =
         format.findings == report::FindingsGo::InReport
             ? ""
-            : "strake: warning: 5 of 42 sensors on SP 1 did not answer: Planar Voltage -5v, CPU 3 "
+            : "strake: warning: SP 1: 5 of 42 sensors on SP 1 did not answer: Planar Voltage -5v, "
+              "CPU 3 "
               "temperature, CPU 4 temperature, DASD Sensor 2 Temperature, Fan 16 speed\n";
     EXPECT_EQ(Strake(all).err, expected) << format.name;
     all.emplace_back("--quiet");

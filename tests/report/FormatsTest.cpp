@@ -2,6 +2,8 @@
 #include "report/Formats.h"
 #include "tests/report/Instances.h"
 
+#include <algorithm>
+#include <cctype>
 #include <gtest/gtest.h>
 #include <set>
 
@@ -41,11 +43,16 @@ TEST(Formats, AreFoundByTheirNamesAndEndingsAndNoOthers) {
     EXPECT_TRUE(endings.insert(format.fileEnding).second) << format.fileEnding;
     EXPECT_EQ(report::FindFormat(format.name), &format);
     EXPECT_EQ(report::FindFormatOfFile("a/b" + std::string(format.fileEnding)), &format);
+    std::string upper(format.fileEnding);
+    std::ranges::transform(upper, upper.begin(), [](unsigned char character) {
+      return static_cast<char>(std::toupper(character));
+    });
+    EXPECT_EQ(report::FindFormatOfFile("A" + upper), &format);
   }
   for (const char* const unknown : {"", "Table", "xml", "json ", "jso"}) {
     EXPECT_EQ(report::FindFormat(unknown), nullptr) << unknown;
   }
-  for (const char* const unknown : {"", "json", "a.jsonl", "a.JSON", "a.json/b", "/dev/null"}) {
+  for (const char* const unknown : {"", "json", "a.jsonl", "a.json/b", "/dev/null"}) {
     EXPECT_EQ(report::FindFormatOfFile(unknown), nullptr) << unknown;
   }
 }

@@ -88,6 +88,7 @@ const Change kFaults[] = {
     {"/instances/0/class", R"("VELKSG_SP_Fan")"},
     {"/instances/0", R"({"class":"VELKSG_SP_NumericSensor"})"},
     {"/instances/0", R"({"properties":{}})"},
+    {"/instances/0", R"({"class":"VELKSG_SP_NumericSensor","properties":{}})"},
     {"/instances/0/properties", "[]"},
     {"/instances/0/properties/DeviceID", "1"},
     {"/instances/0/properties/CurrentReading", R"("73")"},
