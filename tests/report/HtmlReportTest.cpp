@@ -1,8 +1,8 @@
 // The report as a page.
 #include "report/HtmlReport.h"
 #include "report/PageAssets.h"
-#include "tests/report/Html.h"
 #include "tests/report/Instances.h"
+#include "tests/support/ReadBack.h"
 #include "text/TextEscape.h"
 
 #include <algorithm>
@@ -92,7 +92,7 @@ TEST(HtmlReport, PermitsItsOwnStyleAndScriptAndNothingElse) {
 }
 
 TEST(HtmlReport, AsksForNothing) {
-  const HtmlPage page = TakeApart(Page(Everything("x")));
+  const HtmlPage page = ReadHtml(Page(Everything("x")));
   const std::regex asks(" (on[a-z]+|style|src|srcset|action|data|poster)=|href=\"[^#]");
   EXPECT_EQ(std::ranges::count_if(
                 page.tags, [&](const std::string& tag) { return std::regex_search(tag, asks); }),
@@ -101,9 +101,18 @@ TEST(HtmlReport, AsksForNothing) {
   EXPECT_EQ(report::PageStyle().text.find("@import"), std::string_view::npos);
 }
 
+TEST(HtmlReport, IsReadStrictly) {
+  EXPECT_EQ(ReadHtml("a<b c><input>d<style>x > y</style></b>e").tags,
+            (std::vector<std::string>{"b c", "input", "style"}));
+  EXPECT_EQ(ReadHtml("a<b c><input>d<style>x > y</style></b>e").text, "ade");
+  for (const char* const bad : {"<b", "<b>", "</b>", "<b></i>", "a > b", "<style>x", "<script>"}) {
+    EXPECT_THROW(ReadHtml(bad), std::runtime_error) << bad;
+  }
+}
+
 TEST(HtmlReport, WithoutInstancesSaysSo) {
   const std::string page = Page({});
-  EXPECT_NO_THROW(TakeApart(page));
+  EXPECT_NO_THROW(ReadHtml(page));
   EXPECT_EQ(Count(page, "No instances were collected."), 1U);
   EXPECT_EQ(Count(page, "<tr class="), 0U);
   EXPECT_EQ(Count(page, "<section class=\"processor\""), 0U);
@@ -114,7 +123,7 @@ TEST(HtmlReport, WithoutInstancesSaysSo) {
 TEST(HtmlReport, HasTheSameMarkupWhateverTheTextsAre) {
   // Texts may stand in names of parts, and nowhere else in a tag.
   const auto tagsOf = [](const std::string& page) {
-    std::vector<std::string> tags = TakeApart(page).tags;
+    std::vector<std::string> tags = ReadHtml(page).tags;
     for (std::string& tag : tags) {
       if (const std::size_t label = tag.find("aria-label=\""); label != std::string::npos) {
         tag.erase(label, tag.find('"', label + 12) - label);
@@ -163,11 +172,11 @@ TEST(HtmlReport, HoldsAnyInstanceOfWhichNotEverythingIsThere) {
                      Instance("VELKSG_ServProc_DialProtocolEndpoint4", {{"SourceNode", 7}})}},
       Secrets::Masked);
   const std::string page = Page(report);
-  EXPECT_NO_THROW(TakeApart(page));
+  EXPECT_NO_THROW(ReadHtml(page));
   EXPECT_EQ(Count(page, "<tr class=\"sensor\""), 6U);
   EXPECT_EQ(Count(page, "<td class=\"number none\">no reading</td>"), 2U);
   std::vector<std::string> ids;
-  for (const std::string& tag : TakeApart(page).tags) {
+  for (const std::string& tag : ReadHtml(page).tags) {
     if (tag.starts_with("section class=\"processor\"")) {
       ids.push_back(tag.substr(26, tag.find(' ', 26) - 26));
     }
