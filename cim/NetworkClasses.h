@@ -5,7 +5,7 @@
 
 namespace strake::cim {
 
-constexpr SchemaProperty NoLongerThan(std::string_view longest, SchemaProperty property) {
+constexpr SchemaProperty AtMostAsLongAs(std::string_view longest, SchemaProperty property) {
   property.maximumLength = longest.size();
   return property;
 }
@@ -14,7 +14,7 @@ constexpr SchemaProperty NoLongerThan(std::string_view longest, SchemaProperty p
 // may have written.
 constexpr SchemaProperty Address(std::string_view name, std::string_view label,
                                  std::string_view description) {
-  return NoLongerThan("255.255.255.255", {name, label, description});
+  return AtMostAsLongAs("255.255.255.255", {name, label, description});
 }
 
 inline constexpr SchemaProperty kIPProtocolEndpoint[] = {
@@ -32,9 +32,9 @@ inline constexpr SchemaProperty kIPProtocolEndpoint[] = {
      "How the interface gets its addresses: DHCP Enabled, DHCP Disabled or DHCP then try static "
      "IP configuration."},
     Address("GatewayIPAddress", "Gateway", "The configured IP address of the gateway."),
-    NoLongerThan("00:00:00:00:00:00",
-                 {"BurnedInMACAddress", "MAC",
-                  "The MAC address of the adapter as it was made, in hexadecimal with colons."}),
+    AtMostAsLongAs("00:00:00:00:00:00",
+                   {"BurnedInMACAddress", "MAC",
+                    "The MAC address of the adapter as it was made, in hexadecimal with colons."}),
     Address("HostIPSubnetMask", "Subnet mask", "The configured subnet mask of the interface."),
     {"DHCPHostName", "DHCP host name", "The host name that the DHCP server assigned."},
     Address("DHCPAssignedIPAddress", "DHCP address",

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "report/HtmlOut.h"
-#include "report/PageView.h"
+#include "report/ProcessorParts.h"
 
 #include <span>
 

@@ -3,25 +3,32 @@
 #include "report/InstanceText.h"
 #include "report/ValueForPeople.h"
 
-#include <algorithm>
+#include <array>
+#include <string>
+#include <string_view>
 
 namespace strake::report {
 namespace {
 
-constexpr std::string_view kFirstAuthority = "DenyAlways";
-constexpr std::string_view kLastAuthority = "AdvancedConfiguration";
+constexpr std::string_view kLoginClass = "VELKSG_ServProc_DialProtocolEndpoint2";
 
-// What a login permits or is denied stands side by side in the catalogue.
-std::span<const cim::SchemaProperty> Authorities(const cim::SchemaClass& schema) {
-  const auto first =
-      std::ranges::find(schema.properties, kFirstAuthority, &cim::SchemaProperty::name);
-  const auto last =
-      std::ranges::find(first, schema.properties.end(), kLastAuthority, &cim::SchemaProperty::name);
-  return last == schema.properties.end() ? std::span<const cim::SchemaProperty>()
-                                         : std::span(first, last + 1);
-}
-
+// What a login permits or is denied, and what else the matrix has of it.
+constexpr std::array<std::string_view, 10> kAuthorities{"DenyAlways",
+                                                        "Supervisor",
+                                                        "ReadOnly",
+                                                        "NetworkingAndSecurity",
+                                                        "RemoteConsoleAccess",
+                                                        "RemoteConsoleVirtualMediaAccess",
+                                                        "RemoteServerPowerRestartAccess",
+                                                        "BasicConfiguration",
+                                                        "AbilityToClearEventLogs",
+                                                        "AdvancedConfiguration"};
 constexpr std::array<std::string_view, 3> kFurther{"LoginFlags", "DialBackNumber", "LastLogin"};
+
+std::string_view LabelOf(const cim::SchemaClass& schema, std::string_view name) {
+  const cim::SchemaProperty* const property = cim::FindSchemaProperty(schema, name);
+  return property == nullptr ? name : property->label;
+}
 
 std::string ValueOf(const cim::StoredInstance& login, std::string_view property) {
   const cim::Value* const value = cim::FindValue(login, property);
@@ -30,12 +37,12 @@ std::string ValueOf(const cim::StoredInstance& login, std::string_view property)
 
 void AddHead(HtmlOut& out, const cim::SchemaClass& schema) {
   out.Add("<thead><tr><th scope=\"col\">Login</th>"_html);
-  for (const cim::SchemaProperty& authority : Authorities(schema)) {
-    out.Add("<th scope=\"col\" class=\"turned\"><span>"_html, authority.label, "</span></th>"_html);
+  for (const std::string_view name : kAuthorities) {
+    out.Add("<th scope=\"col\" class=\"turned\"><span>"_html, LabelOf(schema, name),
+            "</span></th>"_html);
   }
   for (const std::string_view name : kFurther) {
-    const cim::SchemaProperty* const property = cim::FindSchemaProperty(schema, name);
-    out.Add("<th scope=\"col\">"_html, property == nullptr ? name : property->label, "</th>"_html);
+    out.Add("<th scope=\"col\">"_html, LabelOf(schema, name), "</th>"_html);
   }
   out.Add("</tr></thead>"_html);
 }
@@ -44,12 +51,12 @@ void AddAuthority(HtmlOut& out, const std::string& value) {
   out.Add("<td class=\"authority\">"_html);
   if (value == "Enabled") {
     AddIcon(out, Icon::Yes);
-    AddNothing(out, value);
+    AddUnseen(out, value);
   } else if (value == "Disabled") {
     AddIcon(out, Icon::No);
-    AddNothing(out, value);
+    AddUnseen(out, value);
   } else if (value.empty()) {
-    AddNothing(out, "not set");
+    AddUnseen(out, "not set");
   } else {
     out.Add(value);
   }
@@ -59,14 +66,14 @@ void AddAuthority(HtmlOut& out, const std::string& value) {
 void AddLogin(HtmlOut& out, const cim::StoredInstance& login) {
   out.Add("<tr data-find><th scope=\"row\">"_html, ValueOf(login, "LoginID"), " <small>"_html,
           ValueOf(login, login.schema->number), "</small></th>"_html);
-  for (const cim::SchemaProperty& authority : Authorities(*login.schema)) {
-    AddAuthority(out, ValueOf(login, authority.name));
+  for (const std::string_view name : kAuthorities) {
+    AddAuthority(out, ValueOf(login, name));
   }
   for (const std::string_view name : kFurther) {
     const std::string value = ValueOf(login, name);
     out.Add("<td>"_html);
     if (value.empty()) {
-      AddNothing(out, "not set");
+      AddUnseen(out, "not set");
     } else {
       out.Add(value);
     }
@@ -77,7 +84,7 @@ void AddLogin(HtmlOut& out, const cim::StoredInstance& login) {
 
 }  // namespace
 
-bool IsLogin(const cim::StoredInstance& instance) { return !Authorities(*instance.schema).empty(); }
+bool IsLogin(const cim::StoredInstance& instance) { return instance.schema->name == kLoginClass; }
 
 void AddLogins(HtmlOut& out, Instances logins) {
   out.Add("<div class=\"logins\" data-group><h4>Logins and what they permit</h4>"_html);

@@ -18,7 +18,7 @@ void AddPlainOrMasked(HtmlOut& out, const cim::SchemaProperty& property, std::st
 void AddCell(HtmlOut& out, const cim::SchemaProperty& property, const cim::Value* value) {
   out.Add("<td>"_html);
   if (value == nullptr) {
-    AddNothing(out, "not set");
+    AddUnseen(out, "not set");
   } else {
     AddPlainOrMasked(out, property, cim::ToText(*value));
   }
@@ -83,7 +83,7 @@ void AddState(HtmlOut& out, SensorState state) {
                                                : Icon::Yes);
   // Most are fine: there the shape says it.
   if (state == SensorState::Ok) {
-    AddNothing(out, StateName(state));
+    AddUnseen(out, StateName(state));
   } else {
     out.Add(StateName(state));
   }
@@ -96,7 +96,7 @@ void AddValue(HtmlOut& out, const cim::SchemaProperty& property, std::string_vie
   AddPlainOrMasked(out, property, value);
 }
 
-void AddNothing(HtmlOut& out, std::string_view said) {
+void AddUnseen(HtmlOut& out, std::string_view said) {
   out.Add("<span class=\"unseen\">"_html, said, "</span>"_html);
 }
 

@@ -21,7 +21,7 @@ void AddState(HtmlOut& out, SensorState state);
 // is masked.
 void AddValue(HtmlOut& out, const cim::SchemaProperty& property, std::string_view value);
 // For whoever does not see that a place is empty.
-void AddNothing(HtmlOut& out, std::string_view said);
+void AddUnseen(HtmlOut& out, std::string_view said);
 
 // Opens a part that scrolls sideways where it is too wide, by the keyboard too.
 // Its name is the only one of a page: "Logins, service processor 1".

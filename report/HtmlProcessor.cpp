@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <array>
+#include <string_view>
 #include <vector>
 
 namespace strake::report {
@@ -17,17 +18,32 @@ namespace {
 constexpr std::array<std::string_view, cim::kQueryGroups.size()> kHeadings{
     "Network", "Dial-out, logins and serial ports", "Sensors", "Computer system"};
 
+constexpr std::string_view kSilent = "Did not answer";
+constexpr std::string_view kNotAsked = "Not asked";
+
 // The first computer system is the one that the heading tells of.
-const cim::StoredInstance* SystemOf(const ProcessorView& processor) {
+const cim::StoredInstance* SystemOf(const ProcessorPart& processor) {
   const auto found =
       std::ranges::find(processor.instances, cim::QueryGroup::ComputerSystem,
                         [](const cim::StoredInstance* one) { return one->schema->group; });
   return found == processor.instances.end() ? nullptr : *found;
 }
 
+Icon IconOf(Answer answer) {
+  switch (answer) {
+    case Answer::NotAsked:
+      return Icon::Info;
+    case Answer::No:
+      return Icon::Warning;
+    case Answer::Yes:
+      break;
+  }
+  return Icon::Yes;
+}
+
 // Texts of a property of all instances that have it, without what stands for
 // nothing.
-std::vector<std::string> ValuesOf(const ProcessorView& processor, std::string_view property) {
+std::vector<std::string> ValuesOf(const ProcessorPart& processor, std::string_view property) {
   std::vector<std::string> values;
   for (const cim::StoredInstance* const instance : processor.instances) {
     const cim::Value* const value = cim::FindValue(*instance, property);
@@ -39,26 +55,28 @@ std::vector<std::string> ValuesOf(const ProcessorView& processor, std::string_vi
   return values;
 }
 
-bool TellsOfSilence(FindingCode code) {
+// What the heading says a finding tells; empty: it is none of the heading's.
+std::string_view TellsWhat(FindingCode code) {
   switch (code) {
     case FindingCode::NoSp:
     case FindingCode::SpSilent:
     case FindingCode::NotCommunicating:
-    case FindingCode::Held:
     case FindingCode::ListLength:
     case FindingCode::CommandUnanswered:
     case FindingCode::SensorUnanswered:
     case FindingCode::Partial:
-      return true;
+      return kSilent;
+    case FindingCode::Held:
     case FindingCode::MachineUnknown:
+      return kNotAsked;
     case FindingCode::Limit:
     case FindingCode::EqualKeys:
-      return false;
+      break;
   }
-  return false;
+  return "";
 }
 
-void AddAddresses(HtmlOut& out, const ProcessorView& processor) {
+void AddAddresses(HtmlOut& out, const ProcessorPart& processor) {
   const std::vector<std::string> configured = ValuesOf(processor, "HostIPAddress");
   const std::vector<std::string> assigned = ValuesOf(processor, "DHCPAssignedIPAddress");
   if (configured.empty() && assigned.empty()) {
@@ -74,13 +92,15 @@ void AddAddresses(HtmlOut& out, const ProcessorView& processor) {
   out.Add("</dd></div>"_html);
 }
 
-void AddSilence(HtmlOut& out, const ProcessorView& processor) {
+void AddFindingsThatTell(HtmlOut& out, std::string_view what, const ProcessorPart& processor) {
   bool isFirst = true;
   for (const Finding* const finding : processor.findings) {
-    if (TellsOfSilence(finding->code)) {
-      out.Add(isFirst ? "<div><dt>Did not answer</dt><dd>"_html : ""_html,
-              "<span class=\"item\">"_html, finding->text, "</span> "_html);
-      isFirst = false;
+    if (TellsWhat(finding->code) == what) {
+      if (isFirst) {
+        out.Add("<div><dt>"_html, what, "</dt><dd>"_html);
+        isFirst = false;
+      }
+      out.Add("<span class=\"item\">"_html, finding->text, "</span> "_html);
     }
   }
   if (!isFirst) {
@@ -88,7 +108,7 @@ void AddSilence(HtmlOut& out, const ProcessorView& processor) {
   }
 }
 
-void AddHeader(HtmlOut& out, const Report& report, const ProcessorView& processor) {
+void AddHeader(HtmlOut& out, const Report& report, const ProcessorPart& processor) {
   out.Add("<header><h2>"_html);
   AddProcessorName(out, processor);
   const cim::StoredInstance* const system = SystemOf(processor);
@@ -97,7 +117,7 @@ void AddHeader(HtmlOut& out, const Report& report, const ProcessorView& processo
     out.Add(" <small>"_html, cim::ToText(*name), "</small>"_html);
   }
   out.Add("</h2><dl>"_html);
-  if (processor.answered) {
+  if (processor.number) {
     out.Add("<div><dt>State</dt><dd>"_html);
     AddAnswered(out, processor);
     out.Add("</dd></div>"_html);
@@ -109,7 +129,8 @@ void AddHeader(HtmlOut& out, const Report& report, const ProcessorView& processo
     out.Add("</small></dd></div>"_html);
   }
   AddAddresses(out, processor);
-  AddSilence(out, processor);
+  AddFindingsThatTell(out, kSilent, processor);
+  AddFindingsThatTell(out, kNotAsked, processor);
   out.Add("</dl>"_html);
   if (system != nullptr) {
     AddCimProperties(out, {&system, 1});
@@ -118,7 +139,7 @@ void AddHeader(HtmlOut& out, const Report& report, const ProcessorView& processo
 }
 
 // The instances of one query group, the heading's computer system left out.
-void AddGroup(HtmlOut& out, const ProcessorView& processor, cim::QueryGroup group) {
+void AddGroup(HtmlOut& out, const ProcessorPart& processor, cim::QueryGroup group) {
   const cim::StoredInstance* const system = SystemOf(processor);
   std::vector<const cim::StoredInstance*> cards;
   std::vector<const cim::StoredInstance*> logins;
@@ -147,7 +168,7 @@ void AddGroup(HtmlOut& out, const ProcessorView& processor, cim::QueryGroup grou
 
 }  // namespace
 
-void AddProcessorName(HtmlOut& out, const ProcessorView& processor) {
+void AddProcessorName(HtmlOut& out, const ProcessorPart& processor) {
   if (processor.number) {
     out.Add("Service processor "_html, *processor.number);
   } else {
@@ -155,7 +176,7 @@ void AddProcessorName(HtmlOut& out, const ProcessorView& processor) {
   }
 }
 
-void AddProcessorAnchor(HtmlOut& out, const ProcessorView& processor) {
+void AddProcessorAnchor(HtmlOut& out, const ProcessorPart& processor) {
   if (processor.number) {
     out.Add("sp-"_html, *processor.number);
   } else {
@@ -163,14 +184,14 @@ void AddProcessorAnchor(HtmlOut& out, const ProcessorView& processor) {
   }
 }
 
-void AddAnswered(HtmlOut& out, const ProcessorView& processor) {
-  if (processor.answered) {
-    AddIcon(out, *processor.answered ? Icon::Yes : Icon::Warning);
-    out.Add(*processor.answered ? "answered"_html : "did not answer"_html);
+void AddAnswered(HtmlOut& out, const ProcessorPart& processor) {
+  if (processor.number) {
+    AddIcon(out, IconOf(processor.answer));
+    out.Add(AnswerText(processor.answer));
   }
 }
 
-void AddClock(HtmlOut& out, const ProcessorView& processor, std::chrono::sys_seconds hostTime) {
+void AddClock(HtmlOut& out, const ProcessorPart& processor, std::chrono::sys_seconds hostTime) {
   const cim::StoredInstance* const system = SystemOf(processor);
   const auto* const clock =
       system == nullptr ? nullptr : cim::FindValueOf<cim::DateTime>(*system, "SPClock");
@@ -188,13 +209,13 @@ void AddClock(HtmlOut& out, const ProcessorView& processor, std::chrono::sys_sec
   }
 }
 
-void AddProcessor(HtmlOut& out, const Report& report, const PageView& page,
-                  const ProcessorView& processor) {
+void AddProcessor(HtmlOut& out, const Report& report, const ChartScales& scales,
+                  const ProcessorPart& processor) {
   out.Add("<section class=\"processor\" id=\""_html);
   AddProcessorAnchor(out, processor);
   out.Add("\" data-group>\n"_html);
   AddHeader(out, report, processor);
-  AddSensors(out, processor, page.scales, report.HasStates());
+  AddSensors(out, processor, scales, report.HasStates());
   for (const cim::QueryGroup group : cim::kQueryGroups) {
     AddGroup(out, processor, group);
   }

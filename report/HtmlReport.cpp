@@ -59,15 +59,16 @@ void AddFoot(HtmlOut& out, const CollectionFacts& facts) {
 }  // namespace
 
 void WriteHtml(const Report& report, const Layout& /*layout*/, const Sink& sink) {
-  const PageView page = ArrangePage(report);
+  const std::vector<ProcessorPart> processors = PartsOf(report, SensorOrder::AsCollected);
+  const ChartScales scales(report.Sensors());
   HtmlOut out(sink);
   AddHead(out, report.Facts().server.name);
   AddPageHeader(out, report.Facts());
   AddTools(out);
   out.Add("<main>\n"_html);
-  AddSummary(out, report, page);
-  for (const ProcessorView& processor : page.processors) {
-    AddProcessor(out, report, page, processor);
+  AddSummary(out, report, processors);
+  for (const ProcessorPart& processor : processors) {
+    AddProcessor(out, report, scales, processor);
   }
   AddFoot(out, report.Facts());
   out.Flush();

@@ -2,6 +2,7 @@
 
 #include "report/HtmlParts.h"
 #include "report/NominalVoltage.h"
+#include "report/SensorTally.h"
 
 #include <algorithm>
 #include <array>
@@ -72,7 +73,7 @@ Table Describe(Sensors sensors, const ChartScales& scales, bool hasStates) {
 // Which readings the pictures' ends and middle stand for.
 void AddAxis(HtmlOut& out, const Table& table) {
   if (table.scale == nullptr) {
-    AddNothing(out, "Picture");
+    AddUnseen(out, "Picture");
     return;
   }
   const double middle = (table.scale->low + table.scale->high) / 2;
@@ -166,22 +167,14 @@ void AddRow(HtmlOut& out, const Sensor& sensor, const Table& table, const ChartS
   out.Add("</tr>\n"_html);
 }
 
-Sensors OfKind(const ProcessorView& processor, SensorKind kind) {
-  const auto kindOf = [](const Sensor* one) { return one->kind; };
-  const auto begin = std::ranges::lower_bound(processor.sensors, kind, std::ranges::less(), kindOf);
-  const auto end = std::ranges::upper_bound(processor.sensors, kind, std::ranges::less(), kindOf);
-  return {begin, end};
-}
-
-void AddTable(HtmlOut& out, const ProcessorView& processor, Sensors sensors,
-              const ChartScales& scales, bool hasStates) {
+void AddTable(HtmlOut& out, Sensors sensors, const ChartScales& scales, bool hasStates) {
   const Table table = Describe(sensors, scales, hasStates);
   out.Add("<div class=\"kind\" data-group><h4>"_html, KindHeading(table.kind), " <small>"_html,
           sensors.size());
-  const std::string extent = LowestAndHighest(processor, table.kind);
+  const std::string range = RangeText(TallyOf(sensors));
   // Voltages differ by what they are for.
-  if (!extent.empty() && table.kind != SensorKind::Voltage) {
-    out.Add(", "_html, extent);
+  if (!range.empty() && table.kind != SensorKind::Voltage) {
+    out.Add(", "_html, range);
   }
   out.Add("</small></h4><table class=\"sensors "_html, KindName(table.kind), "\">"_html);
   AddHead(out, table);
@@ -194,16 +187,16 @@ void AddTable(HtmlOut& out, const ProcessorView& processor, Sensors sensors,
 
 }  // namespace
 
-void AddSensors(HtmlOut& out, const ProcessorView& processor, const ChartScales& scales,
+void AddSensors(HtmlOut& out, const ProcessorPart& processor, const ChartScales& scales,
                 bool hasStates) {
   if (processor.sensors.empty()) {
     return;
   }
   out.Add("<section data-group><h3>Sensors</h3><div class=\"kinds\">\n"_html);
   for (int kind = 0; kind < kSensorKinds; ++kind) {
-    const Sensors sensors = OfKind(processor, static_cast<SensorKind>(kind));
+    const Sensors sensors = processor.SensorsOf(static_cast<SensorKind>(kind));
     if (!sensors.empty()) {
-      AddTable(out, processor, sensors, scales, hasStates);
+      AddTable(out, sensors, scales, hasStates);
     }
   }
   out.Add("</div>"_html);
@@ -217,32 +210,6 @@ void AddSensors(HtmlOut& out, const ProcessorView& processor, const ChartScales&
     AddCimProperties(out, instances);
   }
   out.Add("</section>\n"_html);
-}
-
-std::string LowestAndHighest(const ProcessorView& processor, SensorKind kind) {
-  const Sensor* lowest = nullptr;
-  const Sensor* highest = nullptr;
-  for (const Sensor* const sensor : OfKind(processor, kind)) {
-    const std::optional<double> value = ReadingValue(*sensor);
-    if (!value) {
-      continue;
-    }
-    if (lowest == nullptr || *value < ReadingValue(*lowest)) {
-      lowest = sensor;
-    }
-    if (highest == nullptr || *value > ReadingValue(*highest)) {
-      highest = sensor;
-    }
-  }
-  if (lowest == nullptr || lowest->unit != highest->unit) {
-    return "";
-  }
-  std::string text = lowest->reading;
-  if (highest->reading != lowest->reading) {
-    text += " \u2013 ";
-    text += highest->reading;
-  }
-  return text.append(1, ' ').append(UnitForPeople(*lowest));
 }
 
 }  // namespace strake::report

@@ -2,17 +2,26 @@
 
 #include "report/HtmlParts.h"
 #include "report/HtmlProcessor.h"
-#include "report/HtmlSensors.h"
+#include "report/SensorTally.h"
 #include "report/Timestamp.h"
 
 #include <algorithm>
 #include <array>
+#include <optional>
 
 namespace strake::report {
 namespace {
 
+using Parts = std::span<const ProcessorPart>;
+
 // The kinds that every processor's line tells of.
 constexpr std::array kShownKinds{SensorKind::Temperature, SensorKind::Fan};
+
+// Whether the page has a section of it.
+bool IsThere(Parts processors, int number) {
+  return std::ranges::find(processors, std::optional(number), &ProcessorPart::number) !=
+         processors.end();
+}
 
 Icon IconOf(Severity severity) {
   switch (severity) {
@@ -34,15 +43,20 @@ std::string MomentForPeople(std::chrono::sys_seconds moment) {
   return text + " UTC";
 }
 
-void AddFacts(HtmlOut& out, const Report& report, const PageView& page) {
-  const auto numbered = std::ranges::count_if(
-      page.processors, [](const ProcessorView& one) { return one.number.has_value(); });
-  const auto answered =
-      std::ranges::count(page.processors, std::optional<bool>(true), &ProcessorView::answered);
-  const auto silent = std::ranges::count(report.Sensors(), nullptr, &Sensor::instance);
+void AddFacts(HtmlOut& out, const Report& report, Parts processors) {
+  const std::size_t numbered = CountNumbered(processors);
+  const std::size_t notAsked = CountNumbered(processors, Answer::NotAsked);
+  std::size_t silent = 0;
+  for (const ProcessorPart& processor : processors) {
+    silent += TallyOf(processor.sensors).silent;
+  }
   out.Add("<dl class=\"facts\"><div><dt>Service processors</dt><dd>"_html, numbered);
   if (numbered != 0) {
-    out.Add(" <small>"_html, answered, " answered</small>"_html);
+    out.Add(" <small>"_html, CountNumbered(processors, Answer::Yes), " answered"_html);
+    if (notAsked != 0) {
+      out.Add(", "_html, notAsked, " not asked"_html);
+    }
+    out.Add("</small>"_html);
   }
   out.Add("</dd></div><div><dt>Sensors</dt><dd>"_html, report.Sensors().size());
   if (silent != 0) {
@@ -55,31 +69,31 @@ void AddFacts(HtmlOut& out, const Report& report, const PageView& page) {
   out.Add("</small></dd></div></dl>\n"_html);
 }
 
-void AddFinding(HtmlOut& out, const Finding& finding) {
+void AddFinding(HtmlOut& out, const Finding& finding, Parts processors) {
   out.Add("<li data-find><span class=\"severity "_html, SeverityName(finding.severity), "\">"_html);
   AddIcon(out, IconOf(finding.severity));
   out.Add(SeverityName(finding.severity), "</span> <span>"_html, finding.text, "</span>"_html);
-  if (finding.sp) {
+  if (finding.sp && IsThere(processors, *finding.sp)) {
     out.Add(" <a href=\"#sp-"_html, *finding.sp, "\">see SP "_html, *finding.sp, "</a>"_html);
   }
   out.Add("</li>\n"_html);
 }
 
-void AddFindings(HtmlOut& out, const Report& report) {
+void AddFindings(HtmlOut& out, const Report& report, Parts processors) {
   out.Add("<div data-group><h3>Findings</h3>"_html);
   if (report.Findings().empty()) {
     out.Add("<p>None.</p>"_html);
   } else {
     out.Add("<ul class=\"findings\">\n"_html);
     for (const Finding& finding : report.Findings()) {
-      AddFinding(out, finding);
+      AddFinding(out, finding, processors);
     }
     out.Add("</ul>"_html);
   }
   out.Add("</div>\n"_html);
 }
 
-void AddProcessorLine(HtmlOut& out, const ProcessorView& processor,
+void AddProcessorLine(HtmlOut& out, const ProcessorPart& processor,
                       std::chrono::sys_seconds hostTime) {
   out.Add("<tr><th scope=\"row\"><a href=\"#"_html);
   AddProcessorAnchor(out, processor);
@@ -91,17 +105,18 @@ void AddProcessorLine(HtmlOut& out, const ProcessorView& processor,
   AddClock(out, processor, hostTime);
   out.Add("</td><td>"_html);
   AddCount(out, processor.sensors.size(), "sensor", "sensors");
-  if (const std::size_t silent = CountSilent(processor); silent != 0) {
+  if (const std::size_t silent = TallyOf(processor.sensors).silent; silent != 0) {
     out.Add(", "_html, silent, " silent"_html);
   }
   out.Add("</td>"_html);
   for (const SensorKind kind : kShownKinds) {
-    out.Add("<td class=\"number\">"_html, LowestAndHighest(processor, kind), "</td>"_html);
+    out.Add("<td class=\"number\">"_html, RangeText(TallyOf(processor.SensorsOf(kind))),
+            "</td>"_html);
   }
   out.Add("</tr>\n"_html);
 }
 
-void AddProcessors(HtmlOut& out, const Report& report, const PageView& page) {
+void AddProcessors(HtmlOut& out, const Report& report, Parts processors) {
   AddWideRegion(out, "Service processors", "", std::nullopt);
   out.Add(
       "<table class=\"processors\"><thead><tr><th scope=\"col\">Service processor</th>"
@@ -110,7 +125,7 @@ void AddProcessors(HtmlOut& out, const Report& report, const PageView& page) {
     out.Add("<th scope=\"col\" class=\"number\">"_html, KindHeading(kind), "</th>"_html);
   }
   out.Add("</tr></thead><tbody>\n"_html);
-  for (const ProcessorView& processor : page.processors) {
+  for (const ProcessorPart& processor : processors) {
     AddProcessorLine(out, processor, report.Facts().hostTime);
   }
   out.Add("</tbody></table></div>\n"_html);
@@ -128,15 +143,15 @@ void AddPageHeader(HtmlOut& out, const CollectionFacts& facts) {
           facts.server.kind, "</span></p></header>\n"_html);
 }
 
-void AddSummary(HtmlOut& out, const Report& report, const PageView& page) {
+void AddSummary(HtmlOut& out, const Report& report, Parts processors) {
   out.Add("<section class=\"summary\" data-group><h2>Summary</h2>\n"_html);
-  AddFacts(out, report, page);
-  AddFindings(out, report);
+  AddFacts(out, report, processors);
+  AddFindings(out, report, processors);
   if (report.Instances().empty()) {
     out.Add("<p>No instances were collected.</p>\n"_html);
   }
-  if (!page.processors.empty()) {
-    AddProcessors(out, report, page);
+  if (!processors.empty()) {
+    AddProcessors(out, report, processors);
   }
   out.Add("</section>\n"_html);
 }

@@ -2,11 +2,13 @@
 #pragma once
 
 #include "report/HtmlOut.h"
-#include "report/PageView.h"
+#include "report/ProcessorParts.h"
+
+#include <span>
 
 namespace strake::report {
 
 void AddPageHeader(HtmlOut& out, const CollectionFacts& facts);
-void AddSummary(HtmlOut& out, const Report& report, const PageView& page);
+void AddSummary(HtmlOut& out, const Report& report, std::span<const ProcessorPart> processors);
 
 }  // namespace strake::report

@@ -1,5 +1,6 @@
 #include "report/MofReport.h"
 
+#include "report/ServerText.h"
 #include "report/Timestamp.h"
 #include "text/EscapeMof.h"
 #include "text/TextEscape.h"
@@ -11,12 +12,8 @@ namespace {
 std::string Comment(std::string_view text) { return "// " + text::EscapeForPeople(text) + '\n'; }
 
 std::string Head(const CollectionFacts& facts) {
-  std::string server = facts.server.name + " (" + facts.server.kind + ')';
-  if (!facts.server.description.empty()) {
-    server += ": " + facts.server.description;
-  }
   return Comment("Collected by strake " + facts.version + " at " + Timestamp(facts.collectedAt)) +
-         Comment("Server: " + server);
+         Comment("Server: " + ServerForPeople(facts.server));
 }
 
 std::string Literal(const cim::Value& value) {

@@ -3,6 +3,7 @@
 #include "text/TextEscape.h"
 
 #include <algorithm>
+#include <functional>
 #include <utility>
 
 namespace strake::report {

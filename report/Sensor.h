@@ -33,7 +33,7 @@ struct Sensor {
   std::string name;  // without blanks at its end; of the SP's: not safe to show
   SensorKind kind = SensorKind::Other;
   // A decimal number, exact: "5.00"; empty when there is none. With a modifier
-  // that nobody would write out it has an exponent.
+  // beyond ±18 it has an exponent.
   std::string reading;
   std::string unit;                  // "V", "°C", "RPM", "%", "A", "W", else the unit's code
   std::optional<SensorState> state;  // only when limits were given, and with a reading
@@ -47,6 +47,9 @@ struct SilentSensor {
 
   friend bool operator==(const SilentSensor&, const SilentSensor&) = default;
 };
+
+// Some service processors' names end with blanks.
+std::string WithoutBlanksAtItsEnd(std::string_view name);
 
 [[nodiscard]] bool IsSensor(const cim::StoredInstance& instance);
 

@@ -20,7 +20,7 @@ struct Range {
 };
 
 // Characters that turn the writing direction, and delete with the controls of
-// eight-bit terminals: a reader cannot be expected to leave them alone.
+// eight-bit terminals.
 inline constexpr Range kTurningOrControlling[] = {
     {0x007F, 0x009F},  // delete, and the controls of eight-bit terminals
     {0x061C, 0x061C},  // Arabic letter mark

@@ -1,4 +1,4 @@
-// Pages and JSON reports of one server, made by the command.
+// Pages, JSON reports and rows of tables of one server, made by the command.
 import { execFileSync } from "node:child_process";
 import { copyFileSync, readFileSync, writeFileSync } from "node:fs";
 import { join } from "node:path";
@@ -17,7 +17,8 @@ function collect(options, format) {
 function report(name, options) {
   const file = join(folder, `${name}.html`);
   writeFileSync(file, collect(options, "html"));
-  return { name, file, json: JSON.parse(collect(options, "json")) };
+  const rows = collect([...options, "--no-header"], "table").split("\n");
+  return { name, file, json: JSON.parse(collect(options, "json")), rows };
 }
 
 // Every text of this server is hostile, its name too.
@@ -41,11 +42,9 @@ export function reports() {
 export const sensorsOf = ({ json }) =>
   json.instances.filter((one) => one.class === "VELKSG_SP_NumericSensor");
 
-// As many as the findings tell of: "5 of 42 sensors on SP 1 did not answer: ...".
-export const countSilentSensors = ({ json }) =>
-  json.findings
-    .filter(({ code }) => code === "sensor-unanswered")
-    .reduce((sum, { text }) => sum + Number.parseInt(text, 10), 0);
+// The table's rows of them: "SP 1  fan  Fan 16 speed  no answer".
+const silentRow = /^(SP \d+|-) +(temperature|fan|voltage|current|power|other) .* no answer$/;
+export const countSilentSensors = ({ rows }) => rows.filter((row) => silentRow.test(row)).length;
 
 // A page that does what none may do.
 export function misbehaving({ file }) {

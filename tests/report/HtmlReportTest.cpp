@@ -1,8 +1,8 @@
 // The report as a page.
 #include "report/HtmlReport.h"
 #include "report/PageAssets.h"
-#include "tests/report/Html.h"
 #include "tests/report/Instances.h"
+#include "tests/support/ReadBack.h"
 #include "text/TextEscape.h"
 
 #include <algorithm>
@@ -73,7 +73,7 @@ report::Collected Hostile(const std::string& text) {
   facts.server = {text, text, "orlo"};
   return {.facts = facts,
           .instances = Everything(text),
-          .processors = {{1, true}, {2, false}},
+          .processors = {{1, report::Answer::Yes}, {2, report::Answer::No}},
           .silentSensors = {{1, text, report::SensorKind::Voltage}},
           .findings = {{report::Severity::Critical, report::FindingCode::SpSilent, 2, text}}};
 }
@@ -92,7 +92,7 @@ TEST(HtmlReport, PermitsItsOwnStyleAndScriptAndNothingElse) {
 }
 
 TEST(HtmlReport, AsksForNothing) {
-  const HtmlPage page = TakeApart(Page(Everything("x")));
+  const HtmlPage page = ReadHtml(Page(Everything("x")));
   const std::regex asks(" (on[a-z]+|style|src|srcset|action|data|poster)=|href=\"[^#]");
   EXPECT_EQ(std::ranges::count_if(
                 page.tags, [&](const std::string& tag) { return std::regex_search(tag, asks); }),
@@ -101,9 +101,18 @@ TEST(HtmlReport, AsksForNothing) {
   EXPECT_EQ(report::PageStyle().text.find("@import"), std::string_view::npos);
 }
 
+TEST(HtmlReport, IsReadStrictly) {
+  EXPECT_EQ(ReadHtml("a<b c><input>d<style>x > y</style></b>e").tags,
+            (std::vector<std::string>{"b c", "input", "style"}));
+  EXPECT_EQ(ReadHtml("a<b c><input>d<style>x > y</style></b>e").text, "ade");
+  for (const char* const bad : {"<b", "<b>", "</b>", "<b></i>", "a > b", "<style>x", "<script>"}) {
+    EXPECT_THROW(ReadHtml(bad), std::runtime_error) << bad;
+  }
+}
+
 TEST(HtmlReport, WithoutInstancesSaysSo) {
   const std::string page = Page({});
-  EXPECT_NO_THROW(TakeApart(page));
+  EXPECT_NO_THROW(ReadHtml(page));
   EXPECT_EQ(Count(page, "No instances were collected."), 1U);
   EXPECT_EQ(Count(page, "<tr class="), 0U);
   EXPECT_EQ(Count(page, "<section class=\"processor\""), 0U);
@@ -114,7 +123,7 @@ TEST(HtmlReport, WithoutInstancesSaysSo) {
 TEST(HtmlReport, HasTheSameMarkupWhateverTheTextsAre) {
   // Texts may stand in names of parts, and nowhere else in a tag.
   const auto tagsOf = [](const std::string& page) {
-    std::vector<std::string> tags = TakeApart(page).tags;
+    std::vector<std::string> tags = ReadHtml(page).tags;
     for (std::string& tag : tags) {
       if (const std::size_t label = tag.find("aria-label=\""); label != std::string::npos) {
         tag.erase(label, tag.find('"', label + 12) - label);
@@ -163,11 +172,11 @@ TEST(HtmlReport, HoldsAnyInstanceOfWhichNotEverythingIsThere) {
                      Instance("VELKSG_ServProc_DialProtocolEndpoint4", {{"SourceNode", 7}})}},
       Secrets::Masked);
   const std::string page = Page(report);
-  EXPECT_NO_THROW(TakeApart(page));
+  EXPECT_NO_THROW(ReadHtml(page));
   EXPECT_EQ(Count(page, "<tr class=\"sensor\""), 6U);
   EXPECT_EQ(Count(page, "<td class=\"number none\">no reading</td>"), 2U);
   std::vector<std::string> ids;
-  for (const std::string& tag : TakeApart(page).tags) {
+  for (const std::string& tag : ReadHtml(page).tags) {
     if (tag.starts_with("section class=\"processor\"")) {
       ids.push_back(tag.substr(26, tag.find(' ', 26) - 26));
     }
@@ -179,7 +188,7 @@ TEST(HtmlReport, HoldsAnyInstanceOfWhichNotEverythingIsThere) {
 TEST(HtmlReport, TellsSensorsThatDidNotAnswerFromTheOthers) {
   const report::Report report({.facts = SomeFacts(),
                                .instances = {Sensor(1, "CPU <1>", 4150, 2, -2)},
-                               .processors = {{1, true}},
+                               .processors = {{1, report::Answer::Yes}},
                                .silentSensors = {{1, "CPU 2", report::SensorKind::Temperature},
                                                  {1, "+5v", report::SensorKind::Voltage}}},
                               Secrets::Masked);
@@ -250,7 +259,7 @@ TEST(HtmlReport, HeadsAProcessorWithWhatIsKnownOfIt) {
             Instance("VELKSG_ServProc_IPProtocolEndpoint", {{"SourceNode", Node(1)},
                                                             {"HostIPAddress", "192.0.2.21"},
                                                             {"DHCPAssignedIPAddress", "0.0.0.0"}})},
-       .processors = {{1, true}, {2, false}},
+       .processors = {{1, report::Answer::Yes}, {2, report::Answer::No}},
        .findings = {{report::Severity::Warning, report::FindingCode::SpSilent, 2, "SP 2 is mute"},
                     {report::Severity::Info, report::FindingCode::Limit, 2, "too warm"}}},
       Secrets::Masked);
@@ -268,6 +277,75 @@ TEST(HtmlReport, HeadsAProcessorWithWhatIsKnownOfIt) {
   EXPECT_EQ(Between(page, "<dt>Service processors</dt><dd>", "</dd>"),
             "2 <small>1 answered</small>");
   EXPECT_EQ(Count(page, "<li data-find>"), 2U);
+}
+
+TEST(HtmlReport, TellsWhyAProcessorWasNotAsked) {
+  const report::Report report(
+      {.facts = SomeFacts(),
+       .processors = {{1, report::Answer::NotAsked}},
+       .findings = {{report::Severity::Warning, report::FindingCode::Held, 1, "it is held"},
+                    {report::Severity::Warning, report::FindingCode::MachineUnknown, 1, "unknown"},
+                    {report::Severity::Warning, report::FindingCode::Partial, 1, "in part"}}},
+      Secrets::Masked);
+  const std::string page = Page(report);
+  const std::string header = Between(page, "id=\"sp-1\"", "</section>");
+  EXPECT_EQ(Between(header, "<dt>State</dt><dd>", "</dd>"),
+            "<svg class=\"icon info\" aria-hidden=\"true\"><use href=\"#info\"/></svg>not asked");
+  EXPECT_EQ(Between(header, "<dt>Not asked</dt><dd>", "</dd>"),
+            "<span class=\"item\">it is held</span> <span class=\"item\">unknown</span> ");
+  EXPECT_EQ(Between(header, "<dt>Did not answer</dt><dd>", "</dd>"),
+            "<span class=\"item\">in part</span> ");
+  EXPECT_EQ(Between(page, "<dt>Service processors</dt><dd>", "</dd>"),
+            "1 <small>0 answered, 1 not asked</small>");
+}
+
+TEST(HtmlReport, LeadsToNoProcessorThatHasNoSection) {
+  const report::Report report(
+      {.facts = SomeFacts(),
+       .processors = {{1, report::Answer::Yes}},
+       .findings = {{report::Severity::Critical, report::FindingCode::NoSp, 2, "there is no SP 2"},
+                    {report::Severity::Info, report::FindingCode::Partial, 1, "in part"}}},
+      Secrets::Masked);
+  const std::string page = Page(report);
+  EXPECT_EQ(Count(page, "there is no SP 2</span></li>"), 1U);
+  EXPECT_EQ(Count(page, "href=\"#sp-1\">see SP 1"), 1U);
+  EXPECT_EQ(Count(page, "sp-2"), 0U);
+}
+
+TEST(HtmlReport, ComparesNoReadingsOfSeveralUnits) {
+  const std::string page =
+      Page({Sensor(1, "A", 30, 19, 0), Sensor(1, "B", 50, 65, 0), Sensor(1, "C", 3000, 19, 0),
+            Sensor(1, "D", 2350, 2, -2), Sensor(1, "E", 4200, 2, -2)});
+  EXPECT_EQ(Between(page, "<h4>Fans <small>", "</small>"), "3, several units");
+  EXPECT_EQ(Between(page, "<h4>Temperatures <small>", "</small>"), "2, 23.50 to 42.00 °C");
+  EXPECT_EQ(Between(page, "5 sensors</td>", "</tr>"),
+            "<td class=\"number\">23.50 to 42.00 °C</td><td class=\"number\">several units</td>");
+}
+
+// Authorities are the properties that are enabled or disabled.
+TEST(HtmlReport, HasAColumnForEachAuthorityOfTheCatalogue) {
+  const std::string name = "VELKSG_ServProc_DialProtocolEndpoint2";
+  std::string expected;
+  for (const cim::SchemaProperty& property : cim::FindSchemaClass(name)->properties) {
+    if (property.description.ends_with(": Enabled or Disabled.")) {
+      expected += "<th scope=\"col\" class=\"turned\"><span>" + std::string(property.label) +
+                  "</span></th>";
+    }
+  }
+  for (const char* const further : {"LoginFlags", "DialBackNumber", "LastLogin"}) {
+    const auto* const property = cim::FindSchemaProperty(*cim::FindSchemaClass(name), further);
+    expected += "<th scope=\"col\">" + std::string(property->label) + "</th>";
+  }
+  EXPECT_EQ(Between(Page({Instance(name, {})}), "<th scope=\"col\">Login</th>", "</tr>"), expected);
+}
+
+TEST(HtmlReport, HasAMatrixOfLoginsAlone) {
+  for (const cim::SchemaClass& schema : cim::SchemaClasses()) {
+    const bool isLogin = schema.name == "VELKSG_ServProc_DialProtocolEndpoint2";
+    EXPECT_EQ(Count(Page({Instance(std::string(schema.name), {})}), "class=\"matrix\""),
+              isLogin ? 1U : 0U)
+        << schema.name;
+  }
 }
 
 TEST(HtmlReport, ShowsWhatALoginPermits) {

@@ -23,7 +23,7 @@ Collected TwoNodes() {
   return {.facts = SomeFacts(),
           .instances = {Interface(1, "a"), Sensor(1, "Fan 1", 1, 65, 0), Interface(2, "b"),
                         Sensor(2, "Fan 2", 2, 65, 0), Instance("VELKSG_SP_ComputerSystem", {})},
-          .processors = {{1, true}, {2, true}},
+          .processors = {{1, report::Answer::Yes}, {2, report::Answer::Yes}},
           .silentSensors = {{1, "Fan 3", SensorKind::Fan}, {2, "CPU Vtt", SensorKind::Voltage}},
           .findings = {{Severity::Warning, FindingCode::SensorUnanswered, 1, "Fan 3"},
                        {Severity::Warning, FindingCode::SensorUnanswered, 2, "CPU Vtt"},

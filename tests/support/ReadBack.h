@@ -32,4 +32,13 @@ struct MofFile {
 
 MofFile ReadMof(std::string_view mof);
 
+struct HtmlPage {
+  std::vector<std::string> tags;  // of starts, in order: "td class=\"number\""
+  std::string text;               // what stands between tags, references as they are
+};
+
+// Refuses an element that ends and was not the last one to begin, one that does
+// not end, and a ">" that stands alone. What style and script hold is left out.
+HtmlPage ReadHtml(std::string_view html);
+
 }  // namespace strake::tests
