@@ -16,7 +16,7 @@ using platform::BoundaryCall;
 constexpr int kLowest = std::numeric_limits<int>::min();
 constexpr int kHighest = std::numeric_limits<int>::max();
 
-const std::string kSensor = Id("2.1.2");
+const std::string kSensor = Id("2.3.16");
 
 std::span<const unsigned char> View(const std::string& bytes) {
   return {reinterpret_cast<const unsigned char*>(bytes.data()), bytes.size()};
