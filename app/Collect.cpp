@@ -20,6 +20,7 @@
 #include "os/Terminal.h"
 #include "platform/session/HostSession.h"
 #include "platform/session/PluginModule.h"
+#include "report/ClockOffset.h"
 #include "report/Report.h"
 
 #include <chrono>
@@ -56,6 +57,12 @@ std::unique_ptr<Progress> MakeProgress(const CollectOptions& options, std::size_
                                     Progress::Means{Progress::Clock::now, os::WriteStandardError});
 }
 
+// What the host's clock says: the description's text, or the time.
+std::chrono::sys_seconds HostTime(const platform::HostSettings& host,
+                                  std::chrono::sys_seconds now) {
+  return host.localTime ? report::MomentOf(host.localTime->ToString()).value_or(now) : now;
+}
+
 int StatusOf(const report::Report& report, const CollectOptions& options) {
   const std::span<const report::Finding> findings = report.Findings();
   const bool isGrave =
@@ -88,13 +95,14 @@ int Collect(const CollectOptions& options) {
   findings::CollectionWatch watch;
   ForwardingObserver observers({trail.Observer(), progress.get(), &watch});
 
+  const auto begin = std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now());
   report::Collected collected;
-  collected.facts = {
-      .server = server.facts,
-      .version = STRAKE_VERSION,
-      .collectedAt = std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now()),
-      .queries = queries.size(),
-      .classes = ClassesOf(queries)};
+  collected.facts = {.server = server.facts,
+                     .version = STRAKE_VERSION,
+                     .collectedAt = begin,
+                     .queries = queries.size(),
+                     .classes = ClassesOf(queries),
+                     .hostTime = HostTime(server.description.host, begin)};
   platform::HostSession session(server.description, &observers, trail.Sink());
   Attach(session, module.Entry());
   try {

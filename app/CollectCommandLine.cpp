@@ -6,7 +6,9 @@
 #include "app/PropertyFilter.h"
 #include "app/QueryPlan.h"
 #include "app/Server.h"
+#include "app/Subcommands.h"
 #include "cim/Catalogue.h"
+#include "text/OrList.h"
 
 #include <algorithm>
 #include <array>
@@ -16,7 +18,23 @@ namespace strake::app {
 namespace {
 
 constexpr int kHighestLogLevel = 4;
-constexpr int kHighestNode = 255;
+
+constexpr const char* kCollectExamples =
+    R"(Where a file is asked for, - is standard input or output.
+
+Examples:
+  strake collect
+  strake collect --class system --class sensors
+  strake collect --class sensors --format csv --output sensors.csv
+  strake collect --sensor 'fan*' --sort reading --limits limits.toml --fail-on warning
+  strake collect --query VELKSG_SP_ComputerSystem,VELKSG_SP_NumericSensor --query ""
+  strake collect --server rack7.server.json --format json --output report.json
+  strake collect --log run.log --trace run.trace
+
+Exit status: 0 the queries ran, 1 the run failed, 2 wrong usage or a refused input,
+3 with --fail-on: there is a finding of that severity or above.
+Traces and logs hold what the service processors said, passwords included; they
+are created with mode 0600.)";
 
 std::string RefuseUnknownClass(const std::string& name) {
   return cim::FindClassByAnyName(name) != nullptr ? "" : RefusalOfClass(name);
@@ -43,7 +61,8 @@ std::optional<int> ParseNode(const std::string& text) {
   int node = 0;
   const char* const end = text.data() + text.size();
   const auto [stop, error] = std::from_chars(text.data(), end, node);
-  const bool isNode = error == std::errc() && stop == end && node >= 1 && node <= kHighestNode;
+  const bool isNode =
+      error == std::errc() && stop == end && node >= 1 && node <= report::kHighestProcessor;
   return isNode ? std::optional<int>(node) : std::nullopt;
 }
 
@@ -86,8 +105,9 @@ const NamedOrder* FindOrder(std::string_view name) {
 }
 
 std::string RefuseOrder(const std::string& name) {
-  return FindOrder(name) != nullptr ? ""
-                                    : "'" + name + "' is none, expected name, reading or state";
+  return FindOrder(name) != nullptr
+             ? ""
+             : "'" + name + "' is none, expected " + text::OrList(kOrders, &NamedOrder::name);
 }
 
 void AddInput(CLI::App& app, CollectOptions& options) {
@@ -151,10 +171,11 @@ void AddOutput(CLI::App& app, CollectOptions& options) {
       ->check(RefuseUnknownFormat);
   AddFile(app, "--output", "Where the report goes; default: standard output", options.output);
   AddValue(app, "--sort", "KEY",
-           "How the table's sensors follow each other: name, reading or state",
+           "How the table's sensors follow each other: " + text::OrList(kOrders, &NamedOrder::name),
            [&options](const std::string& value) { options.order = FindOrder(value)->order; })
       ->check(RefuseOrder);
-  app.add_flag("!--no-header", options.header, "The table's rows alone");
+  app.add_flag_callback(
+      "--no-header", [&options] { options.header = false; }, "The table's rows alone");
   AddFile(app, "--trace", "Where to record what crosses the plug-in's boundary", options.trace);
   AddFile(app, "--log", "Where log lines go; default: standard error", options.log);
   AddValue(app, "--log-level", "N",
@@ -194,6 +215,24 @@ void RefuseLayoutOfOtherFormats(const CLI::App& command, const CollectOptions& o
   }
 }
 
+// What selects of classes that are not asked for would have no effect.
+void RefuseSelectionOfOtherClasses(const CollectOptions& options) {
+  const std::vector<const cim::SchemaClass*> asked = ClassesOf(QueriesOf(options));
+  const auto isAsked = [&asked](std::string_view name) {
+    return std::ranges::find(asked, name, &cim::SchemaClass::name) != asked.end();
+  };
+  for (const std::string& name : cim::ClassNamesOf(cim::QueryGroup::Sensors)) {
+    if (options.selection.sensor && !isAsked(name)) {
+      Refuse("--sensor: " + name + " is not asked for");
+    }
+  }
+  for (const report::PropertyFilter& filter : options.selection.filters) {
+    if (!isAsked(filter.schema->name)) {
+      Refuse("--filter: " + std::string(filter.schema->name) + " is not asked for");
+    }
+  }
+}
+
 // A mask does not tell a wrong guess from a right one.
 void RefuseFiltersOfSecrets(const CollectOptions& options) {
   for (const report::PropertyFilter& filter : options.selection.filters) {
@@ -206,11 +245,14 @@ void RefuseFiltersOfSecrets(const CollectOptions& options) {
 
 }  // namespace
 
-void AddCollect(CLI::App& command, CollectOptions& options) {
+CLI::App& AddCollect(CLI::App& app, CollectOptions& options) {
+  CLI::App& command = *app.add_subcommand("collect", "Query the plug-in, print a report");
+  command.footer(kCollectExamples);
   AddInput(command, options);
   AddQueries(command, options);
   AddSelection(command, options);
   AddOutput(command, options);
+  return command;
 }
 
 void CompleteCollect(const CLI::App& command, CollectOptions& options) {
@@ -225,6 +267,7 @@ void CompleteCollect(const CLI::App& command, CollectOptions& options) {
   }
   ChooseFormat(command, options);
   RefuseLayoutOfOtherFormats(command, options);
+  RefuseSelectionOfOtherClasses(options);
   RefuseFiltersOfSecrets(options);
   if (options.format->classes == report::Classes::ExactlyOne &&
       ClassesOf(QueriesOf(options)).size() != 1) {

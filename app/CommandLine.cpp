@@ -4,6 +4,8 @@
 #include "app/CommandLineParts.h"
 #include "app/Errors.h"
 #include "app/NearestName.h"
+#include "app/Subcommands.h"
+#include "text/OrList.h"
 
 #include <algorithm>
 #include <utility>
@@ -19,62 +21,10 @@ constexpr const char* kExamples = R"(Examples:
   strake check rack7.server.json        is this server description fine?
   strake diff yesterday.json today.json what changed?
   strake replay run.trace --scrub       a server description out of a trace
+  strake classes                        what can be asked for
+  strake schema                         the same for CIM tools
 
-'strake help collect' and 'strake help check' say more.)";
-
-constexpr const char* kCollectExamples =
-    R"(Where a file is asked for, - is standard input or output.
-
-Examples:
-  strake collect
-  strake collect --class system --class sensors
-  strake collect --class sensors --format csv --output sensors.csv
-  strake collect --sensor 'fan*' --sort reading --limits limits.toml --fail-on warning
-  strake collect --query VELKSG_SP_ComputerSystem,VELKSG_SP_NumericSensor --query ""
-  strake collect --server rack7.server.json --format json --output report.json
-  strake collect --log run.log --trace run.trace
-
-Exit status: 0 the queries ran, 1 the run failed, 2 wrong usage or a refused input,
-3 with --fail-on: there is a finding of that severity or above.
-Traces and logs hold what the service processors said, passwords included; they
-are created with mode 0600.)";
-
-constexpr const char* kCheckExamples =
-    R"(Every file gets a line, and a further one for each thing in it that nothing
-will ask for; - is standard input.
-
-Examples:
-  strake check rack7.server.json
-  strake check servers/*.server.json
-
-Exit status: 0 all descriptions are fine, 2 one is refused, 1 the check itself
-failed.)";
-
-constexpr const char* kDiffExamples =
-    R"(Compares reports of 'strake collect --format json', instance by instance. Clocks
-that went on with the time between them are the same. A secret that differs is
-told and not shown.
-
-Examples:
-  strake diff yesterday.json today.json
-  strake collect --format json | strake diff yesterday.json - --tolerance 10
-
-Exit status: 0 no differences, 1 there are some, 2 wrong usage or a report that is
-refused.)";
-
-constexpr const char* kReplayExamples =
-    R"(Makes a server description whose own trace, collected with the same queries, is
-the same line for line, but for the addresses in status lines. Its "capture" says
-which command that is. What a description cannot say is warned of.
-
-Examples:
-  strake replay run.trace --output field.server.json
-  strake replay run.trace --scrub --output field.server.json
-
-Exit status: 0 the description is written, 1 it cannot be, 2 wrong usage or a trace
-that is refused.
-A description holds what the service processors said, passwords included; without
---scrub it is created with mode 0600.)";
+'strake help collect' says more, and so it is with the others.)";
 
 // CLI11 takes "--name=" for an option whose value follows. It is an empty value.
 std::vector<std::string> Words(int argc, const char* const* argv) {
@@ -111,15 +61,8 @@ std::string DidYouMeanCommand(const std::string& word, const CLI::App& app) {
 
 // For people: "collect, check, help or version".
 std::string CommandNames(const CLI::App& app) {
-  const auto commands = app.get_subcommands({});
-  std::string names;
-  for (const CLI::App* const command : commands) {
-    if (!names.empty()) {
-      names += command == commands.back() ? " or " : ", ";
-    }
-    names += command->get_name();
-  }
-  return names;
+  const std::vector<const CLI::App*> commands = app.get_subcommands({});
+  return text::OrList(commands, [](const CLI::App* command) { return command->get_name(); });
 }
 
 // What is wrong with a word that nothing took.
@@ -190,21 +133,6 @@ void AddCheck(CLI::App& command, CheckOptions& check) {
       ->check(RefuseEmptyName);
 }
 
-struct CommandTexts {
-  const char* name;
-  const char* description;
-  const char* footer;
-};
-
-template <typename Options>
-CLI::App& AddCommand(CLI::App& app, const CommandTexts& texts,
-                     void (*addOptions)(CLI::App& command, Options& options), Options& options) {
-  CLI::App& command = *app.add_subcommand(texts.name, texts.description);
-  command.footer(texts.footer);
-  addOptions(command, options);
-  return command;
-}
-
 }  // namespace
 
 CommandLine ParseCommandLine(int argc, const char* const* argv) {
@@ -214,26 +142,23 @@ CommandLine ParseCommandLine(int argc, const char* const* argv) {
   app.require_subcommand(1);
 
   CollectOptions collect;
-  const CLI::App& collectCommand = AddCommand(
-      app, {"collect", "Query the plug-in, print a report", kCollectExamples}, AddCollect, collect);
+  const CLI::App& collectCommand = AddCollect(app, collect);
   CheckOptions check;
-  const CLI::App& checkCommand =
-      AddCommand(app, {"check", "Check server descriptions", kCheckExamples}, AddCheck, check);
+  const CLI::App& checkCommand = AddCheck(app, check);
   DiffOptions diff;
-  const CLI::App& diffCommand =
-      AddCommand(app, {"diff", "Compare two reports", kDiffExamples}, AddDiff, diff);
+  const CLI::App& diffCommand = AddDiff(app, diff);
+  SchemaOptions schema;
+  const CLI::App& schemaCommand = AddSchema(app, schema);
   ReplayOptions replay;
-  const CLI::App& replayCommand =
-      AddCommand(app, {"replay", "Make a server description out of a trace", kReplayExamples},
-                 AddReplay, replay);
-  CLI::App& classesCommand =
+  const CLI::App& replayCommand = AddReplay(app, replay);
+  const CLI::App& classesCommand =
       *app.add_subcommand("classes", "List the classes and their short names");
 
   std::string subject;
   CLI::App& helpCommand = *app.add_subcommand("help", "Say how strake or a subcommand is used");
   AddValue(helpCommand, "subcommand", "SUBCOMMAND", "One of the others",
            [&subject](const std::string& value) { subject = value; });
-  CLI::App& versionCommand = *app.add_subcommand("version", "Say which version this is");
+  const CLI::App& versionCommand = *app.add_subcommand("version", "Say which version this is");
   app.footer(kExamples);  // a subcommand that is added later would have it too
 
   if (std::optional<TextAnswer> answer = Parse(app, Words(argc, argv))) {
@@ -257,6 +182,9 @@ CommandLine ParseCommandLine(int argc, const char* const* argv) {
   }
   if (replayCommand.parsed()) {
     return replay;
+  }
+  if (schemaCommand.parsed()) {
+    return schema;
   }
   CompleteCollect(collectCommand, collect);
   return collect;

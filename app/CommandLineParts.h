@@ -1,10 +1,6 @@
 // What the options of all subcommands are made of.
 #pragma once
 
-#include "app/CollectOptions.h"
-#include "app/DiffOptions.h"
-#include "app/ReplayOptions.h"
-
 #include <CLI/CLI.hpp>
 #include <filesystem>
 #include <functional>
@@ -25,17 +21,5 @@ CLI::Option* AddFile(CLI::App& app, const std::string& name, const std::string& 
 
 // A check for the name of a file.
 std::string RefuseEmptyName(const std::string& name);
-
-// The subcommand `collect`: its options, and what follows from all of them when
-// they are taken. The second throws UsageError.
-void AddCollect(CLI::App& command, CollectOptions& options);
-void CompleteCollect(const CLI::App& command, CollectOptions& options);
-
-// The same of `diff`.
-void AddDiff(CLI::App& command, DiffOptions& options);
-void CompleteDiff(const DiffOptions& options);
-
-// The options of `replay`.
-void AddReplay(CLI::App& command, ReplayOptions& options);
 
 }  // namespace strake::app

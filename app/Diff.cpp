@@ -1,12 +1,10 @@
 #include "app/Diff.h"
 
 #include "app/Errors.h"
+#include "app/Output.h"
 #include "app/Server.h"
-#include "app/Trail.h"
 #include "os/InputFile.h"
-#include "os/OutputFile.h"
 
-#include <memory>
 #include <string>
 
 namespace strake::app {
@@ -33,19 +31,8 @@ int Diff(const DiffOptions& options) {
                                  {NameOf(options.after), &after},
                                  compare::Compare(before, after, options.tolerancePercent),
                                  STRAKE_VERSION};
-  const bool isFile = options.output && *options.output != kStandardInput;
-  const std::unique_ptr<os::OutputFile> file =
-      OpenOutput(isFile ? options.output : std::nullopt, os::Privacy::Usual);
-  options.write(diff, [&file](std::string_view text) {
-    if (file) {
-      file->Write(text);
-    } else {
-      os::WriteStandardOutput(text);
-    }
-  });
-  if (file) {
-    file->Complete();
-  }
+  WriteOutput(options.output,
+              [&options, &diff](const report::Sink& sink) { options.write(diff, sink); });
   return diff.differences.empty() ? kExitDone : kExitDifferences;
 }
 

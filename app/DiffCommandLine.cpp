@@ -2,6 +2,7 @@
 #include "app/CommandLineParts.h"
 #include "app/Errors.h"
 #include "app/Server.h"
+#include "app/Subcommands.h"
 
 #include <array>
 #include <charconv>
@@ -10,6 +11,18 @@
 
 namespace strake::app {
 namespace {
+
+constexpr const char* kDiffExamples =
+    R"(Compares reports of 'strake collect --format json', instance by instance. Clocks
+that went on with the time between them are the same. A secret that differs is
+told and not shown.
+
+Examples:
+  strake diff yesterday.json today.json
+  strake collect --format json | strake diff yesterday.json - --tolerance 10
+
+Exit status: 0 no differences, 1 there are some, 2 wrong usage or a report that is
+refused.)";
 
 struct NamedWriter {
   std::string_view name;
@@ -47,7 +60,9 @@ std::string RefusePercent(const std::string& text) {
 
 }  // namespace
 
-void AddDiff(CLI::App& command, DiffOptions& options) {
+CLI::App& AddDiff(CLI::App& app, DiffOptions& options) {
+  CLI::App& command = *app.add_subcommand("diff", "Compare two reports");
+  command.footer(kDiffExamples);
   AddValue(command, "before", "BEFORE", "A report as JSON; - is standard input",
            [&options](const std::string& value) { options.before = value; })
       ->required()
@@ -67,6 +82,7 @@ void AddDiff(CLI::App& command, DiffOptions& options) {
       ->check(RefuseWriter);
   AddFile(command, "--output", "Where the differences go; default: standard output",
           options.output);
+  return command;
 }
 
 void CompleteDiff(const DiffOptions& options) {

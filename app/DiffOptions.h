@@ -8,7 +8,7 @@
 
 namespace strake::app {
 
-using DiffWriter = void (*)(const compare::DiffReport& diff, const compare::Sink& sink);
+using DiffWriter = void (*)(const compare::DiffReport& diff, const report::Sink& sink);
 
 struct DiffOptions {
   std::filesystem::path before;  // "-": standard input

@@ -3,7 +3,9 @@
 #include "app/NearestName.h"
 #include "app/Server.h"
 #include "os/InputFile.h"
+#include "report/Selection.h"
 #include "text/InputError.h"
+#include "text/OrList.h"
 #include "text/Quote.h"
 #include "text/TextEscape.h"
 
@@ -14,15 +16,16 @@
 #include <cstdint>
 #include <optional>
 #include <span>
+#include <vector>
 #define TOML_EXCEPTIONS 1
 #include <toml++/toml.h>
 
 namespace strake::app {
 namespace {
 
-// Nobody's limits are longer; what is, is another file.
-constexpr std::size_t kMostLimitsBytes = 1U << 20U;
-constexpr int kHighestSp = 255;
+constexpr std::size_t kMostLimitsBytes = std::size_t{1} << 20U;
+// The library takes a dotted key apart by recursion, a level a point.
+constexpr std::size_t kLongestLine = 1000;
 
 using report::Bound;
 using report::LimitRule;
@@ -40,9 +43,18 @@ constexpr std::array<BoundKey, 4> kBounds{{
     {"upper_critical", &LimitRule::upperCritical},
 }};
 
-constexpr std::array<std::string_view, 7> kKeys{
-    "sensor", "kind", "sp", "lower_critical", "lower_warning", "upper_warning", "upper_critical"};
+// Beside the bounds.
+constexpr std::array<std::string_view, 3> kSubjects{"sensor", "kind", "sp"};
+
 constexpr std::array<std::string_view, 1> kTopKeys{"limit"};
+
+std::vector<std::string_view> RuleKeys() {
+  std::vector<std::string_view> keys(kSubjects.begin(), kSubjects.end());
+  for (const BoundKey& bound : kBounds) {
+    keys.push_back(bound.key);
+  }
+  return keys;
+}
 
 std::string Place(const std::string& name, const toml::source_region& region) {
   return text::EscapeForPeople(name) + ": line " + std::to_string(region.begin.line);
@@ -63,6 +75,9 @@ class Reader {
     const toml::array* const array = rules->as_array();
     if (array == nullptr) {
       Refuse(*rules, "limit is an array of tables: [[limit]]");
+    }
+    if (array->empty()) {
+      Refuse(*rules, "there is no rule in limit");
     }
     for (const toml::node& rule : *array) {
       const toml::table* const one = rule.as_table();
@@ -89,7 +104,7 @@ class Reader {
   }
 
   [[nodiscard]] LimitRule ReadRule(const toml::table& table) const {
-    RefuseOtherKeys(table, kKeys);
+    RefuseOtherKeys(table, RuleKeys());
     LimitRule rule;
     if (const toml::node* const sensor = table.get("sensor")) {
       rule.sensor = Text(*sensor, "sensor is a text: the name of sensors, with * and ?");
@@ -111,9 +126,7 @@ class Reader {
       }
     }
     if (lower == nullptr) {
-      Refuse(table,
-             "a limit has at least one bound: lower_critical, lower_warning, "
-             "upper_warning or upper_critical");
+      Refuse(table, "a limit has at least one bound: " + text::OrList(kBounds, &BoundKey::key));
     }
     return rule;
   }
@@ -137,7 +150,7 @@ class Reader {
 
   [[nodiscard]] int Sp(const toml::node& node) const {
     const auto sp = node.value_exact<std::int64_t>();
-    if (!sp || *sp < 1 || *sp > kHighestSp) {
+    if (!sp || *sp < 1 || *sp > report::kHighestProcessor) {
       Refuse(node, "sp is the number of a service processor, 1 to 255");
     }
     return static_cast<int>(*sp);
@@ -156,9 +169,22 @@ class Reader {
   const std::string* fName;
 };
 
+void RefuseLongLines(std::string_view text, const std::string& name) {
+  std::size_t line = 1;
+  for (std::size_t begin = 0; begin < text.size(); ++line) {
+    const std::size_t end = std::min(text.find('\n', begin), text.size());
+    if (end - begin > kLongestLine) {
+      throw text::InputError(text::EscapeForPeople(name) + ": line " + std::to_string(line) +
+                             ": a line has at most " + std::to_string(kLongestLine) + " bytes");
+    }
+    begin = end + 1;
+  }
+}
+
 }  // namespace
 
 report::Limits ParseLimits(std::string_view text, const std::string& name) {
+  RefuseLongLines(text, name);
   try {
     return Reader(name).Read(toml::parse(text));
   } catch (const toml::parse_error& error) {

@@ -13,4 +13,12 @@ void TellError(std::string_view text) {
 
 void TellWarning(std::string_view text) { TellError("warning: " + std::string(text)); }
 
+void TellFinding(const report::Finding& finding) {
+  std::string text(report::SeverityName(finding.severity));
+  if (finding.sp) {
+    text.append(": SP ").append(std::to_string(*finding.sp));
+  }
+  TellError(text.append(": ").append(finding.text));
+}
+
 }  // namespace strake::app

@@ -1,6 +1,8 @@
 // What the command itself says on standard error.
 #pragma once
 
+#include "report/Finding.h"
+
 #include <string_view>
 
 namespace strake::app {
@@ -8,5 +10,8 @@ namespace strake::app {
 // "strake: TEXT" and "strake: warning: TEXT", on one line whatever the text holds.
 void TellError(std::string_view text);
 void TellWarning(std::string_view text);
+
+// "strake: SEVERITY: SP N: TEXT", without the SP when none is meant.
+void TellFinding(const report::Finding& finding);
 
 }  // namespace strake::app

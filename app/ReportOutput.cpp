@@ -1,40 +1,31 @@
 #include "app/ReportOutput.h"
 
 #include "app/Messages.h"
+#include "app/Output.h"
 #include "os/Terminal.h"
 
 #include <cstddef>
 #include <optional>
-#include <string>
 
 namespace strake::app {
 namespace {
 
-// Writes a report in large pieces: a writer hands over small ones.
-void WriteToStandardOutput(const report::Report& report, const CollectOptions& options) {
-  constexpr std::size_t kPiece = 65536;
-  const report::Colour colour =
-      os::StandardOutputShowsColour() ? report::Colour::Terminal : report::Colour::Never;
-  std::string pending;
-  report::Layout layout{.colour = colour, .order = options.order, .header = options.header};
+// What a terminal says of itself.
+report::Layout LayoutOfTerminal(report::Layout layout) {
+  if (os::StandardOutputShowsColour()) {
+    layout.colour = report::Colour::Terminal;
+  }
   if (const std::optional<std::size_t> columns = os::StandardOutputColumns()) {
     layout.columns = *columns;
   }
-  options.format->write(report, layout, [&pending](std::string_view text) {
-    pending += text;
-    if (pending.size() >= kPiece) {
-      os::WriteStandardOutput(pending);
-      pending.clear();
-    }
-  });
-  os::WriteStandardOutput(pending);
+  return layout;
 }
 
 // Those that somebody has to look at.
 void TellFindings(const report::Report& report) {
   for (const report::Finding& finding : report.Findings()) {
     if (finding.severity != report::Severity::Info) {
-      TellWarning(finding.text);
+      TellFinding(finding);
     }
   }
 }
@@ -44,12 +35,12 @@ void TellFindings(const report::Report& report) {
 void WriteReport(const report::Report& report, const CollectOptions& options,
                  os::OutputFile* file) {
   const report::Format& format = *options.format;
+  const report::Layout layout{.order = options.order, .header = options.header};
   if (file == nullptr) {
-    WriteToStandardOutput(report, options);
+    WriteToStandardOutput(
+        [&](const report::Sink& sink) { format.write(report, LayoutOfTerminal(layout), sink); });
   } else {
-    const report::Layout layout{.order = options.order, .header = options.header};
-    format.write(report, layout, [file](std::string_view text) { file->Write(text); });
-    file->Complete();
+    WriteToFile(*file, [&](const report::Sink& sink) { format.write(report, layout, sink); });
   }
   if (format.findings == report::FindingsGo::ToStandardError && !options.quiet) {
     TellFindings(report);

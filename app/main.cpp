@@ -6,6 +6,7 @@
 #include "app/Errors.h"
 #include "app/Messages.h"
 #include "app/Replay.h"
+#include "app/Schema.h"
 #include "os/OutputFile.h"
 #include "os/Signals.h"
 #include "os/Terminal.h"
@@ -24,6 +25,10 @@ struct Runner {
   int operator()(const CheckOptions& options) const { return Check(options); }
   int operator()(const DiffOptions& options) const { return Diff(options); }
   int operator()(const ReplayOptions& options) const { return Replay(options); }
+  int operator()(const SchemaOptions& options) const {
+    WriteSchema(options);
+    return kExitDone;
+  }
   int operator()(const TextAnswer& answer) const {
     os::WriteStandardOutput(answer.text);
     return kExitDone;

@@ -31,7 +31,8 @@ struct SchemaProperty {
   std::string_view description;
   CimType type = CimType::String;
   Role role = Role::Plain;
-  std::string_view units = {};  // empty: it has none
+  std::string_view units = {};    // empty: it has none
+  std::size_t maximumLength = 0;  // of a text, in characters; 0: its form does not fix one
 };
 
 struct SchemaClass {

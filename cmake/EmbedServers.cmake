@@ -2,6 +2,8 @@
 #   cmake -DOUTPUT=FILE.cpp -DSERVERS=FILE,FILE -P EmbedServers.cmake
 # A server's name is its file's name without ".server.json".
 
+include(${CMAKE_CURRENT_LIST_DIR}/EmbedBytes.cmake)
+
 string(REPLACE "," ";" servers "${SERVERS}")
 set(arrays "")
 set(rows "")
@@ -9,12 +11,8 @@ set(number 0)
 foreach(file IN LISTS servers)
   get_filename_component(name "${file}" NAME)
   string(REGEX REPLACE "\\.server\\.json$" "" name "${name}")
-  file(READ "${file}" bytes HEX)
-  # Rows of 20 bytes keep the generated file readable for tools.
-  string(REGEX REPLACE "(........................................)" "\\1\n" bytes "${bytes}")
-  string(REGEX REPLACE "([0-9a-f][0-9a-f])" "'\\\\x\\1'," bytes "${bytes}")
-  # The last zero byte is no part of the text: an array cannot be empty.
-  string(APPEND arrays "constexpr char kText${number}[] = {\n${bytes}'\\0'};\n")
+  strake_embed_bytes(bytes "${file}")
+  string(APPEND arrays "constexpr char kText${number}[] = {\n${bytes}};\n")
   string(APPEND rows "    {\"${name}\", {kText${number}, sizeof(kText${number}) - 1}},\n")
   math(EXPR number "${number} + 1")
 endforeach()

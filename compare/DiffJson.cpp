@@ -1,4 +1,5 @@
 #include "compare/DiffReport.h"
+#include "report/JsonValue.h"
 #include "report/Timestamp.h"
 #include "text/TextEscape.h"
 
@@ -8,17 +9,6 @@ namespace strake::compare {
 namespace {
 
 using Json = nlohmann::ordered_json;
-
-Json ValueOf(const cim::Value& value) {
-  struct Values {
-    Json operator()(const std::string& text) const { return text::ToValidUtf8(text); }
-    Json operator()(const cim::DateTime& dateTime) const {
-      return text::ToValidUtf8(dateTime.Text());
-    }
-    Json operator()(int number) const { return number; }
-  };
-  return std::visit(Values{}, value);
-}
 
 Json Describe(const Compared& one) {
   return {{"file", text::ToValidUtf8(one.name)},
@@ -32,10 +22,10 @@ Json ChangeOf(const Change& change) {
   }
   Json object = Json::object();
   if (change.before != nullptr) {
-    object["before"] = ValueOf(*change.before);
+    object["before"] = report::JsonValue(*change.before);
   }
   if (change.after != nullptr) {
-    object["after"] = ValueOf(*change.after);
+    object["after"] = report::JsonValue(*change.after);
   }
   return object;
 }
@@ -52,7 +42,7 @@ Json DifferenceOf(const Difference& one) {
   Json keys = Json::object();
   for (const cim::StoredProperty& property : instance.properties) {
     if (property.schema->role == cim::Role::Key) {
-      keys.emplace(property.schema->name, ValueOf(property.value));
+      keys.emplace(property.schema->name, report::JsonValue(property.value));
     }
   }
   Json object{{"change", NameOf(one)}, {"class", instance.schema->name}};
@@ -70,7 +60,7 @@ std::string Line(const Json& json) { return text::EscapeJson(json.dump()); }
 
 }  // namespace
 
-void WriteDiffJson(const DiffReport& diff, const Sink& sink) {
+void WriteDiffJson(const DiffReport& diff, const report::Sink& sink) {
   sink("{\n  \"format\": \"strake-diff/1\",\n  \"strake\": " + Line(diff.version) +
        ",\n  \"before\": " + Line(Describe(diff.before)) +
        ",\n  \"after\": " + Line(Describe(diff.after)) + ",\n  \"differences\": [");

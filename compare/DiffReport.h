@@ -3,10 +3,9 @@
 #pragma once
 
 #include "compare/Comparison.h"
+#include "report/Writer.h"
 
-#include <functional>
 #include <string>
-#include <string_view>
 
 namespace strake::compare {
 
@@ -22,17 +21,15 @@ struct DiffReport {
   std::string version;  // of Strake
 };
 
-using Sink = std::function<void(std::string_view text)>;
-
 // A block a difference, with + for what came, - for what went and ~ for what
 // changed; a closing line counts them.
-void WriteDiffTable(const DiffReport& diff, const Sink& sink);
+void WriteDiffTable(const DiffReport& diff, const report::Sink& sink);
 
 // One object, {"format":"strake-diff/1","strake":VERSION,"before":{"file","server",
 // "collected_at"},"after":{...},"differences":[...]}, a difference a line:
 // {"change":"added|removed|changed","class","keys":{...},"properties":{NAME:
 // {"before","after"}}}. A property that is not set has no such key; of a secret,
 // {"masked":true} stands in place of both.
-void WriteDiffJson(const DiffReport& diff, const Sink& sink);
+void WriteDiffJson(const DiffReport& diff, const report::Sink& sink);
 
 }  // namespace strake::compare

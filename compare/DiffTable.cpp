@@ -107,7 +107,7 @@ std::string SummaryOf(const std::vector<Difference>& differences) {
 
 }  // namespace
 
-void WriteDiffTable(const DiffReport& diff, const Sink& sink) {
+void WriteDiffTable(const DiffReport& diff, const report::Sink& sink) {
   sink(std::string("From ").append(Describe(diff.before)).append("\nto   "));
   sink(Describe(diff.after).append("\n\n"));
   for (const Difference& one : diff.differences) {

@@ -23,10 +23,10 @@ constexpr std::uint64_t kPackedTimeZone = Packed(kReadTimeZone.Bytes());
 constexpr std::size_t kIdentifierKept = 9;
 
 // Two components that differ in the instance number alone are one.
-std::string ComponentOf(std::span<const unsigned char> identifier) {
-  std::string component(identifier.begin(), identifier.end());
+std::vector<unsigned char> ComponentOf(std::span<const unsigned char> identifier) {
+  std::vector<unsigned char> component(identifier.begin(), identifier.end());
   if (component.size() > DotIdentifier::kInstancePlace) {
-    component[DotIdentifier::kInstancePlace] = '\0';
+    component[DotIdentifier::kInstancePlace] = 0;
   }
   return component;
 }
@@ -40,7 +40,8 @@ bool SharePlace(const Question& one, const Question& other) {
   }
   const std::size_t shared =
       one.identifier.size() == kValueBytes ? kValueBytes - 1 : one.identifier.size();
-  return one.identifier.compare(0, shared, other.identifier, 0, shared) == 0;
+  return std::ranges::equal(std::span(one.identifier).first(shared),
+                            std::span(other.identifier).first(shared));
 }
 
 void NoteQuestion(OrloFacts& sp, bool isAnswered, QuestionKind kind,
@@ -50,7 +51,7 @@ void NoteQuestion(OrloFacts& sp, bool isAnswered, QuestionKind kind,
     return;
   }
   const auto kept = identifier.first(std::min(identifier.size(), kIdentifierKept));
-  Question question{kind, std::string(kept.begin(), kept.end())};
+  Question question{kind, {kept.begin(), kept.end()}};
   const auto known = std::ranges::find_if(sp.unanswered, [&question](const Unanswered& one) {
     return SharePlace(one.question, question);
   });
@@ -92,6 +93,7 @@ void CollectionWatch::OnSpQuestion(const char* call, bool result) {
     }
   } else if (question == "isKestle") {
     NoteKind(result);
+    fFacts.tavit.isFound |= result;
   } else if (question == "checkSPComm") {
     fFacts.communication.Note(result);
   } else if (question == "isQmvStop") {
@@ -134,9 +136,8 @@ void CollectionWatch::OnDiscoverSPs(int result) {
 // The plug-in takes counts in 16 bits.
 void CollectionWatch::OnComponentCount(std::span<const unsigned char> identifier, int result) {
   if (fNow.sp) {
-    const std::string component = ComponentOf(identifier);
     NoteQuestion(fFacts.orlo[*fNow.sp], static_cast<short>(result) != -1, QuestionKind::Count,
-                 {reinterpret_cast<const unsigned char*>(component.data()), component.size()});
+                 ComponentOf(identifier));
   }
 }
 

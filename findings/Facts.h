@@ -24,7 +24,7 @@ struct Tally {
     failed += came ? 0 : 1;
   }
   [[nodiscard]] bool HasFailures() const { return failed > 0; }
-  [[nodiscard]] bool NeverCame() const { return failed == asked; }
+  [[nodiscard]] bool SomeCame() const { return failed < asked; }
 };
 
 enum class QuestionKind : std::uint8_t {
@@ -35,7 +35,7 @@ enum class QuestionKind : std::uint8_t {
 
 struct Question {
   QuestionKind kind = QuestionKind::Command;
-  std::string identifier;  // its first bytes; empty: of a list
+  std::vector<unsigned char> identifier;  // its first bytes; empty: of a list
 };
 
 // A question without an answer, and how often that was so. The values of one
@@ -66,6 +66,7 @@ struct TavitListReplies {
 using TavitFamilyReplies = std::array<TavitListReplies, kTavitLists.size()>;
 
 struct TavitFacts {
+  bool isFound = false;
   Tally released;              // by the management server
   Tally knownMachines;         // of those that were released
   std::string unknownMachine;  // for people, of the last one

@@ -1,18 +1,21 @@
 #include "findings/Findings.h"
 
-#include "findings/SensorTallies.h"
+#include "findings/SensorReplies.h"
+#include "text/OrList.h"
 #include "text/TextEscape.h"
 
 #include <algorithm>
 #include <limits>
 #include <map>
 #include <optional>
+#include <span>
 #include <string>
 #include <utility>
 
 namespace strake::findings {
 namespace {
 
+using report::Answer;
 using report::FindingCode;
 using report::Severity;
 
@@ -26,19 +29,26 @@ std::string SpText(int number) { return "SP " + std::to_string(number); }
 
 // Empty when it failed in all of them.
 std::string InSome(const Tally& queries) {
-  return queries.NeverCame() ? ""
-                             : " in " + std::to_string(queries.failed) + " of " +
-                                   std::to_string(queries.asked) + " queries";
+  return queries.SomeCame() ? " in " + std::to_string(queries.failed) + " of " +
+                                  std::to_string(queries.asked) + " queries"
+                            : "";
 }
 
 std::string InSomeTimes(const Tally& times) {
-  return times.NeverCame() ? ""
-                           : " (" + std::to_string(times.failed) + " of " +
-                                 std::to_string(times.asked) + " times)";
+  return times.SomeCame() ? " (" + std::to_string(times.failed) + " of " +
+                                std::to_string(times.asked) + " times)"
+                          : "";
 }
 
 Severity CriticalUnlessSomeCame(const Tally& tally) {
-  return tally.NeverCame() ? Severity::Critical : Severity::Warning;
+  return tally.SomeCame() ? Severity::Warning : Severity::Critical;
+}
+
+Answer AnswerOf(const Tally& tally) {
+  if (tally.asked == 0) {
+    return Answer::NotAsked;
+  }
+  return tally.SomeCame() ? Answer::Yes : Answer::No;
 }
 
 // The first names, and how many others there are.
@@ -68,18 +78,14 @@ class NameList {
   std::size_t fCount = 0;
 };
 
-std::string NameOf(const SensorTally& sensor) {
-  std::string_view name = sensor.name;
-  while (name.ends_with(' ')) {
-    name.remove_suffix(1);
-  }
-  return text::EscapeForPeople(name) + InSomeTimes(sensor.tally);
+std::string NameOf(const SensorReplies& sensor) {
+  return text::EscapeForPeople(report::WithoutBlanksAtItsEnd(sensor.name)) +
+         InSomeTimes(sensor.tally);
 }
 
 std::string NameOf(const Unanswered& unanswered) {
   const Question& question = unanswered.question;
-  const std::span identifier(reinterpret_cast<const unsigned char*>(question.identifier.data()),
-                             question.identifier.size());
+  const std::span<const unsigned char> identifier(question.identifier);
   std::string name;
   switch (question.kind) {
     case QuestionKind::Command:
@@ -108,8 +114,8 @@ class Deduction {
       AddOrlo(NumberOf(sp), facts);
     }
     fCollected->processors.clear();
-    for (const auto& [number, hasAnswered] : fProcessors) {
-      fCollected->processors.push_back({number, hasAnswered});
+    for (const auto& [number, answer] : fProcessors) {
+      fCollected->processors.push_back({number, answer});
     }
   }
 
@@ -118,7 +124,11 @@ class Deduction {
     fCollected->findings.push_back({severity, code, sp, std::move(text)});
   }
 
-  void AddProcessor(int number, bool hasAnswered) { fProcessors[number] |= hasAnswered; }
+  // Of several answers the best one counts.
+  void AddProcessor(int number, Answer answer) {
+    Answer& known = fProcessors.try_emplace(number, answer).first->second;
+    known = std::max(known, answer);
+  }
 
   void AddServer() {
     const Tally& communication = fFacts->communication;
@@ -143,10 +153,10 @@ class Deduction {
 
   void AddTavit() {
     const TavitFacts& tavit = fFacts->tavit;
-    if (tavit.released.asked == 0) {
+    if (!tavit.isFound && tavit.released.asked == 0) {
       return;
     }
-    AddProcessor(kTavitNumber, false);
+    AddProcessor(kTavitNumber, Answer::NotAsked);
     if (tavit.released.HasFailures()) {
       Add(Severity::Warning, FindingCode::Held, kTavitNumber,
           "the management server held the Tavit processor" + InSome(tavit.released) +
@@ -162,22 +172,20 @@ class Deduction {
         AddTavitList(family, static_cast<TavitList>(list));
       }
     }
-    AddSensors(kTavitNumber, SensorTallies(tavit));
+    AddSensors(kTavitNumber, SensorRepliesOf(tavit));
   }
 
   void AddTavitList(std::size_t family, TavitList list) {
     const auto place = static_cast<std::size_t>(list);
     const TavitListReplies& replies = fFacts->tavit.families.at(family).at(place);
-    AddProcessor(kTavitNumber, !replies.replies.NeverCame());
+    AddProcessor(kTavitNumber, AnswerOf(replies.replies));
     if (replies.wrong == 0) {
       return;
     }
     const TavitListFacts& facts = kTavitLists.at(place);
     const TavitFamily& layout = std::span(kTavitFamilies)[family];
-    std::string expected;
-    for (const unsigned char length : ExpectedLengths(layout, list)) {
-      expected += (expected.empty() ? "" : " or ") + std::to_string(length);
-    }
+    const std::string expected = text::OrList(
+        ExpectedLengths(layout, list), [](unsigned char length) { return std::to_string(length); });
     Add(Severity::Warning, FindingCode::ListLength, kTavitNumber,
         "the " + std::string(facts.name) + " of " + SpText(kTavitNumber) + " (" +
             facts.request->name + ") stated length " + std::to_string(replies.firstWrong) +
@@ -187,12 +195,13 @@ class Deduction {
 
   void AddOrlo(int number, const OrloFacts& facts) {
     const Tally& presence = facts.presence;
-    AddProcessor(number, !presence.NeverCame());
+    AddProcessor(number, AnswerOf(presence));
     if (presence.HasFailures()) {
       Add(CriticalUnlessSomeCame(presence), FindingCode::SpSilent, number,
           SpText(number) + " did not answer its presence test" + InSome(presence));
     }
-    AddSensors(number, SensorTallies(facts));
+    AddProcessor(number, AnswerOf(facts.questions));
+    AddSensors(number, SensorRepliesOf(facts));
     if (facts.questions.HasFailures()) {
       NameList names;
       for (const Unanswered& unanswered : facts.unanswered) {
@@ -204,13 +213,14 @@ class Deduction {
     }
   }
 
-  void AddSensors(int number, const std::vector<SensorTally>& sensors) {
+  void AddSensors(int number, const std::vector<SensorReplies>& sensors) {
     NameList names;
-    for (const SensorTally& sensor : sensors) {
+    for (const SensorReplies& sensor : sensors) {
+      AddProcessor(number, AnswerOf(sensor.tally));
       if (sensor.tally.HasFailures()) {
         names.Add(NameOf(sensor));
       }
-      if (sensor.tally.NeverCame()) {
+      if (!sensor.tally.SomeCame()) {
         fCollected->silentSensors.push_back({number, std::string(sensor.name), sensor.kind});
       }
     }
@@ -230,7 +240,7 @@ class Deduction {
 
   const Facts* fFacts;
   report::Collected* fCollected;
-  std::map<int, bool> fProcessors;  // by number: whether it answered
+  std::map<int, Answer> fProcessors;  // by number
 };
 
 }  // namespace

@@ -1,12 +1,26 @@
 #include "fuzz/Check.h"
 #include "fuzz/Harnesses.h"
 #include "fuzz/ReportBytes.h"
+#include "fuzz/ReportSettings.h"
+#include "report/CimXmlReport.h"
+#include "report/CsvReport.h"
+#include "report/Formats.h"
+#include "report/HtmlReport.h"
+#include "report/InstanceText.h"
 #include "report/JsonReport.h"
+#include "report/MofReport.h"
 #include "report/TableReport.h"
+#include "tests/support/ReadBack.h"
 #include "text/TextEscape.h"
 
 #include <algorithm>
+#include <map>
 #include <nlohmann/json.hpp>
+#include <optional>
+#include <regex>
+#include <set>
+#include <sstream>
+#include <stdexcept>
 #include <string_view>
 
 namespace strake::fuzz {
@@ -84,8 +98,43 @@ void CheckJson(const std::string& text, const ReportCase& reportCase) {
   }
 }
 
+// What a spreadsheet would calculate has an apostrophe before it, numbers have none.
+std::string AsCell(const std::string& value) {
+  static const std::regex number("[+-]?[0-9]+(\\.[0-9]+)?([eE][+-]?[0-9]+)?");
+  const bool isFormula = !value.empty() &&
+                         std::string_view("=+-@\t\r").find(value.front()) != std::string::npos &&
+                         !std::regex_match(value, number);
+  return isFormula ? '\'' + value : value;
+}
+
+void CheckCell(const std::string& cell, const cim::SchemaProperty& column,
+               const cim::StoredInstance& instance, const ReportCase& reportCase) {
+  std::string expected;
+  for (const cim::StoredProperty& stored : instance.properties) {
+    if (stored.schema != &column) continue;
+    const ordered_json value = Expected(stored, reportCase);
+    expected = value.is_string() ? value.get<std::string>() : value.dump();
+  }
+  Check(cell == AsCell(expected), "a cell has its property's value");
+}
+
+// The table of instances of one class.
+void CheckCsv(const std::string& text, const cim::SchemaClass& schema, const ReportCase& reportCase,
+              bool hasStates) {
+  const auto rows = tests::ReadCsv(text);
+  const bool isOfSensors = schema.group == cim::QueryGroup::Sensors;
+  const std::size_t further = isOfSensors ? (hasStates ? 3 : 2) : 0;
+  Check(!rows.empty() && rows.front().size() == schema.properties.size() + further,
+        "a table has a column for each property, and three or two for a sensor's reading");
+  Check(rows.size() == reportCase.instances.size() + 1, "a table has a row for each instance");
+  for (std::size_t row = 1; row < rows.size(); ++row) {
+    for (std::size_t i = 0; i < schema.properties.size(); ++i) {
+      CheckCell(rows[row][i], schema.properties[i], reportCase.instances[row - 1], reportCase);
+    }
+  }
+}
+
 void CheckText(const std::string& text, const ReportCase& reportCase) {
-  Check(text.ends_with('\n'), "a report ends with a whole line");
   Check(IsValidUtf8(text), "a report is UTF-8");
   const bool isShown = reportCase.showSecrets;
   Check(isShown || text.find(kSecretText) == text.npos, "a masked report holds no secret");
@@ -105,10 +154,139 @@ void MarkSecrets(ReportCase& reportCase) {
   }
 }
 
-std::string Written(report::Writer writer, const report::Report& report, report::Colour colour) {
+std::string Written(report::Writer writer, const report::Report& report,
+                    const report::Layout& layout = {}) {
   std::string out;
-  writer(report, {.colour = colour}, [&out](std::string_view text) { out += text; });
+  writer(report, layout, [&out](std::string_view text) { out += text; });
   return out;
+}
+
+report::Report ReportOf(const ReportCase& reportCase, const ReportSettings& settings,
+                        const std::vector<const cim::SchemaClass*>& classes) {
+  return report::Report(
+      {.facts = {.server = {reportCase.serverName, reportCase.serverDescription, "orlo"},
+                 .version = "1.0.0",
+                 .collectedAt = {},
+                 .queries = 1,
+                 .classes = classes},
+       .instances = reportCase.instances,
+       .processors = settings.processors,
+       .silentSensors = settings.silentSensors,
+       .findings = settings.findings},
+      reportCase.showSecrets ? report::Secrets::Shown : report::Secrets::Masked, settings.limits);
+}
+
+// What one format's reader gives is what another one's gives.
+void CheckReadBack(const report::Report& report, const std::string& json) {
+  const ordered_json instances = tests::ReadJsonInstances(json);
+  const std::string mof = Written(report::WriteMof, report);
+  Check(!HasControls(mof), "MOF has no control characters");
+  Check(tests::ReadMof(mof).instances.dump() == instances.dump(), "MOF says what JSON says");
+  const std::string xml = Written(report::WriteCimXml, report);
+  Check(tests::ReadCimXml(xml).dump() == tests::AsXmlHolds(instances).dump(),
+        "CIM-XML says what JSON says");
+}
+
+// A table of each class.
+void CheckTables(const ReportCase& reportCase, const ReportSettings& settings) {
+  std::map<const cim::SchemaClass*, ReportCase> cases;
+  for (const cim::StoredInstance& instance : reportCase.instances) {
+    const auto [place, isNew] = cases.try_emplace(instance.schema);
+    if (isNew) place->second.showSecrets = reportCase.showSecrets;
+    place->second.instances.push_back(instance);
+  }
+  for (const auto& [schema, ofClass] : cases) {
+    const report::Report report = ReportOf(ofClass, settings, {schema});
+    CheckCsv(Written(report::WriteCsv, report), *schema, ofClass, settings.limits.has_value());
+  }
+}
+
+// The numbers of service processors that the report tells of; none: of those that
+// it is not known of.
+std::set<std::optional<int>> ProcessorsOf(const report::Report& report,
+                                          const ReportSettings& settings) {
+  std::set<std::optional<int>> numbers;
+  for (const report::Processor& one : settings.processors) numbers.insert(one.number);
+  for (const report::SilentSensor& one : settings.silentSensors) numbers.insert(one.sp);
+  for (const cim::StoredInstance& one : report.Instances()) {
+    numbers.insert(report::SourceNode(one));
+  }
+  return numbers;
+}
+
+void CheckPage(const report::Report& report, const ReportSettings& settings) {
+  const std::string html = Written(report::WriteHtml, report);
+  Check(!HasControls(html), "a page has no control characters");
+  const tests::HtmlPage page = tests::ReadHtml(html);
+  const auto count = [&page](std::string_view beginning) {
+    return static_cast<std::size_t>(std::ranges::count_if(
+        page.tags, [beginning](const std::string& tag) { return tag.starts_with(beginning); }));
+  };
+  const std::size_t sensors =
+      static_cast<std::size_t>(std::ranges::count_if(report.Instances(), report::IsSensor));
+  Check(count("tr class=\"sensor\"") == sensors, "a page has a row for each sensor");
+  Check(count("tr class=\"silent\"") == settings.silentSensors.size(),
+        "a page has a row for each sensor that did not answer");
+  Check(count("section class=\"processor\"") == ProcessorsOf(report, settings).size(),
+        "a page has a section for each service processor");
+  for (const std::string& tag : page.tags) {
+    if (tag.starts_with("a href=\"#")) {
+      Check(html.find(" id=\"" + tag.substr(9)) != html.npos,
+            "a link leads to a place of the page");
+    }
+  }
+}
+
+std::multiset<std::string> LinesOf(const std::string& text) {
+  std::multiset<std::string> lines;
+  std::istringstream in(text);
+  for (std::string line; std::getline(in, line);) lines.insert(line);
+  return lines;
+}
+
+void CheckTable(const report::Report& report, const ReportCase& reportCase,
+                const ReportSettings& settings) {
+  report::Layout layout = settings.layout;
+  layout.colour = reportCase.colours ? report::Colour::Terminal : report::Colour::Never;
+  std::string table = Written(report::WriteTable, report, layout);
+  Check(table.empty() || table.ends_with('\n'), "a table ends with a whole line");
+  CheckText(table, reportCase);
+  for (const std::string_view colours :
+       {"\x1b[1m", "\x1b[31m", "\x1b[33m", "\x1b[34m", "\x1b[0m"}) {
+    if (reportCase.colours) table = Without(table, colours);
+  }
+  Check(!HasControls(table), "a table has no control characters");
+  if (layout.header) {
+    auto processors = ProcessorsOf(report, settings);
+    processors.erase(std::nullopt);
+    Check(table.ends_with(processors.size() == 1
+                              ? ", 1 service processor\n"
+                              : ", " + std::to_string(processors.size()) + " service processors\n"),
+          "a table counts the service processors");
+  } else {
+    report::Layout asCollected = layout;
+    asCollected.colour = report::Colour::Never;
+    asCollected.order = report::SensorOrder::AsCollected;
+    Check(LinesOf(table) == LinesOf(Written(report::WriteTable, report, asCollected)),
+          "an order changes no line");
+  }
+}
+
+// Readers throw for what is not well-formed.
+void CheckFormats(const ReportCase& reportCase, const ReportSettings& settings) {
+  const report::Report report = ReportOf(reportCase, settings, {});
+  for (const report::Format& format : report::Formats()) {
+    const std::string text = Written(format.write, report);
+    Check(text.ends_with('\n'), "a report ends with a whole line");
+    CheckText(text, reportCase);
+  }
+  const std::string json = Written(report::WriteJson, report);
+  CheckJson(json, reportCase);
+  Check(!HasControls(json), "a JSON report has no control characters");
+  CheckReadBack(report, json);
+  CheckTables(reportCase, settings);
+  CheckPage(report, settings);
+  CheckTable(report, reportCase, settings);
 }
 
 }  // namespace
@@ -116,26 +294,11 @@ std::string Written(report::Writer writer, const report::Report& report, report:
 int FuzzReport(const std::uint8_t* data, std::size_t size) {
   ReportCase reportCase = DecodeReport({data, size});
   MarkSecrets(reportCase);
-  const report::Report report(
-      {.facts = {.server = {reportCase.serverName, reportCase.serverDescription, "orlo"},
-                 .version = "1.0.0",
-                 .collectedAt = {},
-                 .queries = 1},
-       .instances = reportCase.instances},
-      reportCase.showSecrets ? report::Secrets::Shown : report::Secrets::Masked);
-
-  const std::string json = Written(report::WriteJson, report, report::Colour::Never);
-  CheckText(json, reportCase);
-  CheckJson(json, reportCase);
-  Check(!HasControls(json), "a JSON report has no control characters");
-  const auto colour = reportCase.colours ? report::Colour::Terminal : report::Colour::Never;
-  std::string table = Written(report::WriteTable, report, colour);
-  CheckText(table, reportCase);
-  for (const std::string_view colours :
-       {"\x1b[1m", "\x1b[31m", "\x1b[33m", "\x1b[34m", "\x1b[0m"}) {
-    if (reportCase.colours) table = Without(table, colours);
+  try {
+    CheckFormats(reportCase, SettingsOf({data, size}, reportCase));
+  } catch (const std::exception& error) {
+    Check(false, error.what());
   }
-  Check(!HasControls(table), "a table has no control characters");
   return 0;
 }
 

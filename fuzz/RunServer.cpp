@@ -91,6 +91,17 @@ void CheckTrace(std::string_view trace) {
   }
 }
 
+// What the catalogue says of the values, which others are told.
+void CheckLengths(const std::vector<cim::StoredInstance>& instances) {
+  for (const cim::StoredInstance& instance : instances) {
+    for (const cim::StoredProperty& property : instance.properties) {
+      const std::size_t maximum = property.schema->maximumLength;
+      Check(maximum == 0 || cim::ToText(property.value).size() <= maximum,
+            "a text is not longer than the catalogue says");
+    }
+  }
+}
+
 }  // namespace
 
 void RunServer(const ServerCase& serverCase) {
@@ -104,6 +115,7 @@ void RunServer(const ServerCase& serverCase) {
     platform::HostSession session(serverCase.server, &watcher);
     session.Attach(&StrakeModuleEntry);
     for (const Query& query : serverCase.queries) RunQuery(session, watcher, query);
+    CheckLengths(session.Instances().Committed());
     static_cast<void>(cim::FindEqualKeys(session.Instances().Committed()));
     session.Detach();
   }

@@ -54,7 +54,8 @@ std::optional<std::chrono::sys_seconds> MomentOf(std::string_view cimText) {
 }
 
 std::string OffsetForPeople(std::chrono::seconds ahead) {
-  std::chrono::seconds left = ahead < ahead.zero() ? -ahead : ahead;
+  const bool isBehind = ahead < std::chrono::seconds::zero();
+  std::chrono::seconds left = isBehind ? -ahead : ahead;
   std::string text;
   std::size_t index = 0;
   while (index < kUnits.size() && left < kUnits.at(index).length) {
@@ -72,7 +73,7 @@ std::string OffsetForPeople(std::chrono::seconds ahead) {
   if (text.empty()) {
     return "no difference";
   }
-  return text + (ahead < ahead.zero() ? " behind" : " ahead");
+  return text + (isBehind ? " behind" : " ahead");
 }
 
 }  // namespace strake::report

@@ -7,7 +7,6 @@
 
 #include <algorithm>
 #include <functional>
-#include <map>
 
 namespace strake::report {
 namespace {
@@ -38,7 +37,8 @@ std::string FirstValue(const ProcessorPart& part, std::string_view property,
 Cells ProcessorCells(const ProcessorPart& part) {
   Cell answer;
   if (part.number) {
-    answer = part.answered ? Cell{"answered"} : Cell{"did not answer", Shade::Warning};
+    answer = {std::string(AnswerText(part.answer)),
+              part.answer == Answer::No ? Shade::Warning : Shade::None};
   }
   return {{ProcessorLabel(part.number, "no SP"), Shade::Heading},
           answer,
@@ -58,13 +58,12 @@ void WriteAtLength(const Parts& parts, TableText& out) {
   for (const ProcessorPart* const part : parts) {
     Widen(columns, ProcessorCells(*part));
     std::vector<Cells>& rows = kinds.emplace_back();
-    for (std::span<const Sensor* const> rest(part->sensors); !rest.empty();) {
-      const SensorKind kind = rest.front()->kind;
-      const auto end =
-          std::ranges::find_if(rest, [kind](const Sensor* sensor) { return sensor->kind != kind; });
-      const auto count = static_cast<std::size_t>(end - rest.begin());
-      const SensorTally tally = TallyOf(rest.first(count));
-      rest = rest.subspan(count);
+    for (int number = 0; number < kSensorKinds; ++number) {
+      const auto kind = static_cast<SensorKind>(number);
+      const SensorTally tally = TallyOf(part->SensorsOf(kind));
+      if (tally.count == 0) {
+        continue;
+      }
       Widen(kindColumns, rows.emplace_back(Cells{{std::string(KindHeading(kind))},
                                                  {std::to_string(tally.count)},
                                                  {RangeText(tally)},
@@ -91,18 +90,13 @@ void WriteInShort(const Parts& parts, TableText& out) {
 }
 
 // Those that did not answer before all others, then by the gravest finding.
-Parts GravestFirst(const Report& report, std::span<const ProcessorPart> parts) {
-  std::map<std::optional<int>, Severity> gravest;
-  for (const Finding& finding : report.Findings()) {
-    gravest.emplace(finding.sp, finding.severity);  // the gravest one comes first
-  }
-  const auto rank = [&gravest](const ProcessorPart* part) {
+Parts GravestFirst(std::span<const ProcessorPart> parts) {
+  const auto rank = [](const ProcessorPart* part) {
     constexpr int kUnanswered = 3;
-    if (!part->answered) {
+    if (part->answer == Answer::No) {
       return kUnanswered;
     }
-    const auto found = part->number ? gravest.find(part->number) : gravest.end();
-    return found == gravest.end() ? -1 : static_cast<int>(found->second);
+    return part->findings.empty() ? -1 : static_cast<int>(part->findings.front()->severity);
   };
   Parts sorted;
   for (const ProcessorPart& part : parts) {
@@ -114,11 +108,26 @@ Parts GravestFirst(const Report& report, std::span<const ProcessorPart> parts) {
   return sorted;
 }
 
-// "and 238 more, all answered".
+// "and 238 more, all answered", "and 238 more, 4 of which did not answer".
 std::string RestText(std::span<const ProcessorPart* const> rest) {
-  const auto silent = std::ranges::count(rest, false, &ProcessorPart::answered);
-  return "and " + std::to_string(rest.size()) + " more, " +
-         (silent == 0 ? "all answered" : std::to_string(silent) + " of which did not answer");
+  const auto count = [rest](Answer answer) {
+    return static_cast<std::size_t>(std::ranges::count(rest, answer, &ProcessorPart::answer));
+  };
+  std::string text = "and " + std::to_string(rest.size()) + " more";
+  const std::size_t silent = count(Answer::No);
+  const std::size_t notAsked = count(Answer::NotAsked);
+  if (silent == rest.size()) {
+    AppendListed(text, "none of which answered");
+  } else if (silent > 0) {
+    AppendListed(text, std::to_string(silent) + " of which did not answer");
+  }
+  if (notAsked > 0) {
+    AppendListed(text, Counted(notAsked, "of which was not asked", "of which were not asked"));
+  }
+  if (count(Answer::Yes) == rest.size()) {
+    AppendListed(text, "all answered");
+  }
+  return text;
 }
 
 // The gravest come first, and are written by number.
@@ -128,7 +137,7 @@ void WriteProcessors(Parts shown, TableText& out) {
     rest.assign(shown.begin() + kMostProcessors, shown.end());
     shown.resize(kMostProcessors);
   }
-  std::ranges::sort(shown, {}, &ProcessorPart::number);
+  std::ranges::sort(shown);  // by number, as the parts stand
   shown.size() <= kMostAtLength ? WriteAtLength(shown, out) : WriteInShort(shown, out);
   if (!rest.empty()) {
     out.Line(0, RestText(rest));
@@ -149,7 +158,7 @@ void WriteFindingsInShort(std::span<const Finding> findings, TableText& out) {
 }  // namespace
 
 void WriteFirstScreen(const Report& report, std::span<const ProcessorPart> parts, TableText& out) {
-  const Parts shown = GravestFirst(report, parts);
+  const Parts shown = GravestFirst(parts);
   if (!shown.empty()) {
     out.Blank();
     WriteProcessors(shown, out);

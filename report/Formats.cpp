@@ -1,7 +1,13 @@
 #include "report/Formats.h"
 
+#include "report/CimXmlReport.h"
+#include "report/CsvReport.h"
+#include "report/HtmlReport.h"
 #include "report/JsonReport.h"
+#include "report/MofReport.h"
 #include "report/TableReport.h"
+#include "text/Glob.h"
+#include "text/OrList.h"
 
 #include <algorithm>
 
@@ -12,6 +18,11 @@ constexpr Format kFormats[] = {
     {"table", ".txt", "text/plain; charset=utf-8", WriteTable, FindingsGo::InReport, Classes::Any,
      Laid::OutForPeople},
     {"json", ".json", "application/json", WriteJson, FindingsGo::InReport},
+    {"csv", ".csv", "text/csv; charset=utf-8", WriteCsv, FindingsGo::ToStandardError,
+     Classes::ExactlyOne},
+    {"html", ".html", "text/html; charset=utf-8", WriteHtml, FindingsGo::InReport},
+    {"mof", ".mof", "text/plain; charset=utf-8", WriteMof, FindingsGo::ToStandardError},
+    {"cimxml", ".xml", "application/xml; charset=utf-8", WriteCimXml, FindingsGo::ToStandardError},
 };
 
 }  // namespace
@@ -24,20 +35,12 @@ const Format* FindFormat(std::string_view name) {
 }
 
 const Format* FindFormatOfFile(std::string_view fileName) {
-  const auto* const found = std::ranges::find_if(
-      kFormats, [fileName](const Format& one) { return fileName.ends_with(one.fileEnding); });
+  const auto* const found = std::ranges::find_if(kFormats, [fileName](const Format& one) {
+    return text::MatchesGlob(std::string(1, '*').append(one.fileEnding), fileName);
+  });
   return found == std::end(kFormats) ? nullptr : found;
 }
 
-std::string FormatNames() {
-  std::string names;
-  for (const Format& format : kFormats) {
-    if (!names.empty()) {
-      names += &format == &kFormats[std::size(kFormats) - 1] ? " or " : ", ";
-    }
-    names += format.name;
-  }
-  return names;
-}
+std::string FormatNames() { return text::OrList(Formats(), &Format::name); }
 
 }  // namespace strake::report

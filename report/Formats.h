@@ -34,10 +34,10 @@ std::span<const Format> Formats();
 
 // Null when there is none of this name.
 const Format* FindFormat(std::string_view name);
-// The format of the file's ending, in lower case; null when there is none.
+// The format of the file's ending, whatever its case; null when there is none.
 const Format* FindFormatOfFile(std::string_view fileName);
 
-// For people: "table or json".
+// For people: "table, json or csv".
 std::string FormatNames();
 
 }  // namespace strake::report

@@ -63,12 +63,16 @@ std::optional<int> SourceNode(const cim::StoredInstance& instance) {
   return node == nullptr ? std::nullopt : std::optional<int>(*node);
 }
 
-std::string InstanceTitle(const cim::StoredInstance& instance) {
+std::string NumberedTitle(const cim::StoredInstance& instance) {
   std::string text(instance.schema->title);
   if (const cim::Value* const number = cim::FindValue(instance, instance.schema->number)) {
     text += ' ' + ValueForPeople(*number);
   }
-  text += " (";
+  return text;
+}
+
+std::string InstanceTitle(const cim::StoredInstance& instance) {
+  std::string text = NumberedTitle(instance) + " (";
   text += instance.schema->name;
   return text + ')';
 }
@@ -77,7 +81,8 @@ std::vector<Row> InstanceRows(const cim::StoredInstance& instance) {
   std::vector<Row> rows;
   for (const cim::StoredProperty& property : instance.properties) {
     if (!IsSaidElsewhere(instance, property)) {
-      rows.push_back({std::string(property.schema->label), RowText(instance, property)});
+      rows.push_back(
+          {std::string(property.schema->label), RowText(instance, property), property.schema});
     }
   }
   return rows;

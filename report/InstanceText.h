@@ -11,12 +11,15 @@ namespace strake::report {
 
 struct Row {
   std::string label;
-  std::string value;  // safe to show
+  std::string value;                              // safe to show
+  const cim::SchemaProperty* property = nullptr;  // never null in an instance's rows
 };
 
 // The number of the service processor that the instance came from.
 std::optional<int> SourceNode(const cim::StoredInstance& instance);
 
+// "Network interface 1".
+std::string NumberedTitle(const cim::StoredInstance& instance);
 // "Network interface 1 (VELKSG_ServProc_IPProtocolEndpoint)".
 std::string InstanceTitle(const cim::StoredInstance& instance);
 

@@ -1,28 +1,16 @@
 #include "report/JsonReport.h"
 
+#include "report/JsonValue.h"
 #include "report/Timestamp.h"
 #include "text/TextEscape.h"
 
-#include <cmath>
 #include <nlohmann/json.hpp>
-#include <optional>
 #include <string>
 
 namespace strake::report {
 namespace {
 
 using Json = nlohmann::ordered_json;
-
-Json ValueOf(const cim::Value& value) {
-  struct Values {
-    Json operator()(const std::string& text) const { return text::ToValidUtf8(text); }
-    Json operator()(const cim::DateTime& dateTime) const {
-      return text::ToValidUtf8(dateTime.Text());
-    }
-    Json operator()(int number) const { return number; }
-  };
-  return std::visit(Values{}, value);
-}
 
 Json HeadOf(const CollectionFacts& facts) {
   return {{"format", "strake-report/1"},
@@ -37,7 +25,7 @@ Json HeadOf(const CollectionFacts& facts) {
 Json InstanceOf(const cim::StoredInstance& instance) {
   Json properties = Json::object();
   for (const cim::StoredProperty& property : instance.properties) {
-    properties.emplace(property.schema->name, ValueOf(property.value));
+    properties.emplace(property.schema->name, JsonValue(property.value));
   }
   Json object;
   object["class"] = instance.schema->name;
@@ -56,15 +44,10 @@ Json FindingOf(const Finding& finding) {
 
 std::string Line(const Json& json) { return text::EscapeJson(json.dump()); }
 
-// JSON bounds no number, but a reader that keeps it as a double can refuse one
-// that is beyond all of them, and the whole report with it.
-bool FitsDouble(const Sensor& sensor) {
-  const std::optional<double> value = ReadingValue(sensor);
-  return value && std::isfinite(*value);
-}
-
 // An instance's object. The reading is put in as it is written: a number in
-// JSON has no last place that could get lost.
+// JSON has no last place that could get lost. JSON bounds no number either, but a
+// reader that keeps it as a double can refuse the whole report for one beyond all
+// of them.
 std::string InstanceLine(const cim::StoredInstance& instance, const Report& report) {
   std::string line = Line(InstanceOf(instance));
   const Sensor* const sensor = report.FindSensor(instance);
@@ -72,7 +55,7 @@ std::string InstanceLine(const cim::StoredInstance& instance, const Report& repo
     return line;
   }
   line.back() = ',';
-  if (FitsDouble(*sensor)) {
+  if (ReadingFitsDouble(*sensor)) {
     line += "\"reading\":" + sensor->reading + ",";
   }
   line += "\"unit\":" + Line(sensor->unit);

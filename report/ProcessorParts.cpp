@@ -71,18 +71,30 @@ std::span<const cim::StoredInstance* const> ProcessorPart::OtherInstances() cons
   return {EndOfComputerSystems(instances), instances.end()};
 }
 
+std::span<const Sensor* const> ProcessorPart::SensorsOf(SensorKind kind) const {
+  const auto found = std::ranges::equal_range(sensors, kind, {},
+                                              [](const Sensor* sensor) { return sensor->kind; });
+  return {found.begin(), found.end()};
+}
+
 std::vector<ProcessorPart> PartsOf(const Report& report, SensorOrder order) {
   std::map<std::optional<int>, ProcessorPart> byNumber;
-  for (const Processor& processor : report.Processors()) {
-    byNumber[processor.number].answered = processor.answered;
+  for (const Sensor& sensor : report.Sensors()) {
+    byNumber[sensor.sp].sensors.push_back(&sensor);
   }
   for (const cim::StoredInstance& instance : report.Instances()) {
     if (!IsSensor(instance)) {
       byNumber[SourceNode(instance)].instances.push_back(&instance);
     }
   }
-  for (const Sensor& sensor : report.Sensors()) {
-    byNumber[sensor.sp].sensors.push_back(&sensor);
+  for (const Processor& processor : report.Processors()) {
+    byNumber[processor.number].answer = processor.answer;
+  }
+  for (const Finding& finding : report.Findings()) {
+    const auto found = finding.sp ? byNumber.find(finding.sp) : byNumber.end();
+    if (found != byNumber.end()) {
+      found->second.findings.push_back(&finding);
+    }
   }
   std::vector<ProcessorPart> parts;
   parts.reserve(byNumber.size());
@@ -92,7 +104,33 @@ std::vector<ProcessorPart> PartsOf(const Report& report, SensorOrder order) {
     Sort(part.sensors, order);
     parts.push_back(std::move(part));
   }
+  if (!parts.empty() && !parts.front().number) {
+    std::ranges::rotate(parts, parts.begin() + 1);
+  }
   return parts;
+}
+
+std::string_view AnswerText(Answer answer) {
+  switch (answer) {
+    case Answer::NotAsked:
+      return "not asked";
+    case Answer::No:
+      return "did not answer";
+    case Answer::Yes:
+      break;
+  }
+  return "answered";
+}
+
+std::size_t CountNumbered(std::span<const ProcessorPart> parts) {
+  return static_cast<std::size_t>(std::ranges::count_if(
+      parts, [](const ProcessorPart& part) { return part.number.has_value(); }));
+}
+
+std::size_t CountNumbered(std::span<const ProcessorPart> parts, Answer answer) {
+  return static_cast<std::size_t>(std::ranges::count_if(parts, [answer](const ProcessorPart& part) {
+    return part.number.has_value() && part.answer == answer;
+  }));
 }
 
 }  // namespace strake::report

@@ -7,8 +7,8 @@
 namespace strake::report {
 namespace {
 
-// Beyond it a power of ten is written as such: a modifier is a 32-bit number,
-// and nobody reads two billion zeros.
+// Beyond it a power of ten is written as such: a modifier is a 32-bit number, of
+// up to two billion zeros.
 constexpr std::int32_t kLargestModifier = 18;
 
 struct Unit {

@@ -3,6 +3,7 @@
 #include "text/TextEscape.h"
 
 #include <algorithm>
+#include <functional>
 #include <utility>
 
 namespace strake::report {
@@ -55,7 +56,7 @@ void ApplyLimits(std::vector<Sensor>& sensors, const Limits& limits,
 }  // namespace
 
 Report::Report(Collected collected, Secrets secrets, const std::optional<Limits>& limits)
-    : fCollected(std::move(collected)), fHasStates(limits.has_value()), fSecrets(secrets) {
+    : fCollected(std::move(collected)), fHasStates(limits.has_value()) {
   for (const cim::EqualKeys& equal : cim::FindEqualKeys(fCollected.instances)) {
     fCollected.findings.push_back(FindingOf(equal));
   }

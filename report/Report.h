@@ -9,6 +9,7 @@
 
 #include <chrono>
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <span>
 #include <string>
@@ -34,10 +35,14 @@ struct CollectionFacts {
   std::chrono::sys_seconds hostTime = collectedAt;
 };
 
+// Whether a service processor answered, or nothing was asked of it. What says
+// more is greater.
+enum class Answer : std::uint8_t { NotAsked, No, Yes };
+
 // A service processor that was found.
 struct Processor {
   int number = 0;  // from 1
-  bool answered = false;
+  Answer answer = Answer::NotAsked;
 
   friend bool operator==(const Processor&, const Processor&) = default;
 };
@@ -84,13 +89,11 @@ class Report {
   [[nodiscard]] std::span<const Finding> Findings() const { return fCollected.findings; }
   // Whether limits were given, so that sensors have states.
   [[nodiscard]] bool HasStates() const { return fHasStates; }
-  [[nodiscard]] Secrets SecretsAre() const { return fSecrets; }
 
  private:
   Collected fCollected;
   std::vector<Sensor> fSensors;
   bool fHasStates;
-  Secrets fSecrets;
 };
 
 }  // namespace strake::report

@@ -33,7 +33,17 @@ bool IsSelected(const cim::StoredInstance& instance, const Selection& selection)
   });
 }
 
-// It has a name and no other property.
+// It has a name and a number and no other property.
+bool Fits(const SilentSensor& silent, const PropertyFilter& filter) {
+  if (filter.schema->group != cim::QueryGroup::Sensors) {
+    return true;
+  }
+  if (filter.property->name == "SourceNode") {
+    return text::MatchesGlob(filter.glob, std::to_string(silent.sp));
+  }
+  return filter.property->name == kSensorName && text::MatchesGlob(filter.glob, silent.name);
+}
+
 bool IsSelected(const SilentSensor& silent, const Selection& selection) {
   if (selection.node && silent.sp != selection.node) {
     return false;
@@ -41,10 +51,8 @@ bool IsSelected(const SilentSensor& silent, const Selection& selection) {
   if (selection.sensor && !text::MatchesGlob(*selection.sensor, SensorOf(silent).name)) {
     return false;
   }
-  return std::ranges::all_of(selection.filters, [&silent](const PropertyFilter& filter) {
-    return filter.schema->group != cim::QueryGroup::Sensors ||
-           (filter.property->name == kSensorName && text::MatchesGlob(filter.glob, silent.name));
-  });
+  return std::ranges::all_of(
+      selection.filters, [&silent](const PropertyFilter& filter) { return Fits(silent, filter); });
 }
 
 bool SelectsSensors(const Selection& selection) {
@@ -66,13 +74,17 @@ bool IsSelected(const Finding& finding, const Selection& selection, const Collec
          });
 }
 
-void NoteMissingNode(Collected& collected, int node) {
-  const auto isIt = [node](const Processor& processor) { return processor.number == node; };
-  if (std::ranges::any_of(collected.processors, isIt) || !collected.instances.empty()) {
+// Only where others were found: else a finding tells why there is none.
+void SelectProcessor(Collected& collected, int node) {
+  if (collected.processors.empty()) {
     return;
   }
-  collected.findings.push_back({Severity::Warning, FindingCode::NoSp, node,
-                                "SP " + std::to_string(node) + " was not found"});
+  std::erase_if(collected.processors,
+                [node](const Processor& processor) { return processor.number != node; });
+  if (collected.processors.empty() && collected.instances.empty()) {
+    collected.findings.push_back({Severity::Warning, FindingCode::NoSp, node,
+                                  "SP " + std::to_string(node) + " was not found"});
+  }
 }
 
 }  // namespace
@@ -87,10 +99,7 @@ void Select(Collected& collected, const Selection& selection) {
   std::erase_if(collected.findings,
                 [&](const Finding& finding) { return !IsSelected(finding, selection, collected); });
   if (selection.node) {
-    std::erase_if(collected.processors, [&selection](const Processor& processor) {
-      return processor.number != selection.node;
-    });
-    NoteMissingNode(collected, *selection.node);
+    SelectProcessor(collected, *selection.node);
   }
 }
 

@@ -9,6 +9,9 @@
 
 namespace strake::report {
 
+// Service processors are numbered in eight bits, from 1.
+inline constexpr int kHighestProcessor = 255;
+
 // Of a class, only the instances whose property fits the glob. One that lacks
 // the property does not.
 struct PropertyFilter {

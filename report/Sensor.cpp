@@ -2,13 +2,15 @@
 
 #include "report/InstanceText.h"
 #include "report/Reading.h"
-#include "text/TextEscape.h"
+#include "text/OrList.h"
 
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cmath>
 #include <limits>
 #include <memory>
+#include <span>
 #include <system_error>
 
 namespace strake::report {
@@ -40,13 +42,6 @@ std::string NameOf(const cim::StoredInstance& sensor) {
   return "(no name)";
 }
 
-// Some of the service processors' names end with blanks, which nobody writes in
-// a pattern.
-std::string WithoutBlanksAtItsEnd(std::string name) {
-  name.erase(name.find_last_not_of(' ') + 1);
-  return name;
-}
-
 const Kind& At(SensorKind kind) { return kKinds.at(static_cast<std::size_t>(kind)); }
 
 }  // namespace
@@ -62,19 +57,14 @@ std::optional<SensorKind> FindSensorKind(std::string_view name) {
   return static_cast<SensorKind>(found - kKinds.begin());
 }
 
-std::string SensorKindNames() {
-  std::string names;
-  for (const Kind& kind : kKinds) {
-    if (!names.empty()) {
-      names += &kind == &kKinds.back() ? " or " : ", ";
-    }
-    names += kind.name;
-  }
-  return names;
-}
+std::string SensorKindNames() { return text::OrList(std::span<const Kind>(kKinds), &Kind::name); }
 
 std::string_view StateName(SensorState state) {
   return kStates.at(static_cast<std::size_t>(state));
+}
+
+std::string WithoutBlanksAtItsEnd(std::string_view name) {
+  return std::string(name.substr(0, name.find_last_not_of(' ') + 1));
 }
 
 bool IsSensor(const cim::StoredInstance& instance) {
@@ -112,12 +102,17 @@ std::optional<double> ReadingValue(const Sensor& sensor) {
   if (sensor.reading.empty() || stop != end) {
     return std::nullopt;
   }
-  if (error == std::errc::result_out_of_range) {  // of a modifier that nobody means
+  if (error == std::errc::result_out_of_range) {  // greater or smaller than doubles are
     const bool isTiny = sensor.reading.find("e-") != std::string::npos;
     const double size = isTiny ? 0 : std::numeric_limits<double>::infinity();
     return sensor.reading.front() == '-' ? -size : size;
   }
   return value;
+}
+
+bool ReadingFitsDouble(const Sensor& sensor) {
+  const std::optional<double> value = ReadingValue(sensor);
+  return value && std::isfinite(*value);
 }
 
 std::string ReadingForPeople(const Sensor& sensor) {

@@ -33,7 +33,7 @@ struct Sensor {
   std::string name;  // without blanks at its end; of the SP's: not safe to show
   SensorKind kind = SensorKind::Other;
   // A decimal number, exact: "5.00"; empty when there is none. With a modifier
-  // that nobody would write out it has an exponent.
+  // beyond ±18 it has an exponent.
   std::string reading;
   std::string unit;                  // "V", "°C", "RPM", "%", "A", "W", else the unit's code
   std::optional<SensorState> state;  // only when limits were given, and with a reading
@@ -48,6 +48,9 @@ struct SilentSensor {
   friend bool operator==(const SilentSensor&, const SilentSensor&) = default;
 };
 
+// Some service processors' names end with blanks.
+std::string WithoutBlanksAtItsEnd(std::string_view name);
+
 [[nodiscard]] bool IsSensor(const cim::StoredInstance& instance);
 
 // Without a state.
@@ -56,6 +59,9 @@ Sensor SensorOf(const SilentSensor& silent);
 
 // The reading's value, for comparison and drawing; empty without a reading.
 std::optional<double> ReadingValue(const Sensor& sensor);
+// Whether there is a reading that programs, which keep numbers as doubles, can
+// take in.
+bool ReadingFitsDouble(const Sensor& sensor);
 
 // Both safe to show: "no answer" of a sensor that gave none, "no reading" when
 // there is none in it; of a unit without a sign "unit 7".

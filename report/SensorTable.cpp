@@ -16,10 +16,9 @@ constexpr std::size_t kWideTerminal = 110;
 
 // The title of the class, which is there without an instance of it, too.
 std::string Title() {
-  const auto* const schema =
-      std::ranges::find(cim::SchemaClasses(), cim::QueryGroup::Sensors, &cim::SchemaClass::group)
-          .base();
-  return InstanceTitle({schema, 0, {}});
+  const cim::SchemaClass& schema =
+      *std::ranges::find(cim::SchemaClasses(), cim::QueryGroup::Sensors, &cim::SchemaClass::group);
+  return InstanceTitle({&schema, 0, {}});
 }
 
 Columns TwiceBesideEachOther(const Columns& columns) {

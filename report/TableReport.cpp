@@ -6,10 +6,9 @@
 #include "report/ProcessorParts.h"
 #include "report/RowList.h"
 #include "report/SensorTable.h"
+#include "report/SensorTally.h"
+#include "report/ServerText.h"
 #include "report/TableText.h"
-#include "text/TextEscape.h"
-
-#include <algorithm>
 
 namespace strake::report {
 namespace {
@@ -20,14 +19,6 @@ constexpr std::size_t kRowIndent = 4;
 constexpr std::size_t kMostSilentLines = 16;
 
 using Parts = std::vector<ProcessorPart>;
-
-void WriteServer(const ServerFacts& server, TableText& out) {
-  std::string text = text::EscapeForPeople(server.name) + " (" + server.kind + ")";
-  if (!server.description.empty()) {
-    text += ": " + text::EscapeForPeople(server.description);
-  }
-  out.Line(0, text, Shade::Heading);
-}
 
 void WriteBlocks(std::span<const cim::StoredInstance* const> instances, TableText& out) {
   for (const cim::StoredInstance* const instance : instances) {
@@ -42,16 +33,17 @@ void WriteBlocks(std::span<const cim::StoredInstance* const> instances, TableTex
 }
 
 void WritePart(const ProcessorPart& part, const Layout& layout, TableText& out) {
-  if (part.answered && part.instances.empty() && part.sensors.empty()) {
+  if (part.answer == Answer::Yes && part.instances.empty() && part.sensors.empty()) {
     return;
   }
   out.Blank();
   out.Line(
       0, part.number ? "Service processor " + std::to_string(*part.number) : "No service processor",
       Shade::Heading);
-  if (!part.answered) {
+  if (part.answer != Answer::Yes) {
     out.Blank();
-    out.Line(kTitleIndent, "did not answer", Shade::Warning);
+    out.Line(kTitleIndent, AnswerText(part.answer),
+             part.answer == Answer::No ? Shade::Warning : Shade::None);
   }
   WriteBlocks(part.ComputerSystems(), out);
   if (!part.sensors.empty()) {
@@ -69,11 +61,6 @@ void WriteFindings(std::span<const Finding> findings, TableText& out) {
   }
 }
 
-std::size_t CountSilent(const ProcessorPart& part) {
-  return static_cast<std::size_t>(std::ranges::count(
-      part.sensors, static_cast<const cim::StoredInstance*>(nullptr), &Sensor::instance));
-}
-
 // "2 of 42 sensors on SP 1 did not answer".
 void WriteSilentSensors(const Parts& parts, TableText& out) {
   const auto write = [&out](std::size_t silent, std::size_t all, const std::string& where) {
@@ -86,7 +73,7 @@ void WriteSilentSensors(const Parts& parts, TableText& out) {
   std::size_t restSilent = 0;
   std::size_t restAll = 0;
   for (const ProcessorPart& part : parts) {
-    const std::size_t silent = CountSilent(part);
+    const std::size_t silent = TallyOf(part.sensors).silent;
     if (silent == 0) {
       continue;
     }
@@ -105,10 +92,8 @@ void WriteSilentSensors(const Parts& parts, TableText& out) {
 }
 
 void WriteSummary(const Report& report, const Parts& parts, TableText& out) {
-  const auto processors = static_cast<std::size_t>(std::ranges::count_if(
-      parts, [](const ProcessorPart& part) { return part.number.has_value(); }));
-  const auto silent = std::ranges::count(parts, false, &ProcessorPart::answered);
-  const std::string all = Counted(processors, "service processor", "service processors");
+  const std::size_t silent = CountNumbered(parts, Answer::No);
+  const std::string all = Counted(CountNumbered(parts), "service processor", "service processors");
   out.Blank();
   if (report.Instances().empty()) {
     out.Line(0, "No instances were collected.");
@@ -127,7 +112,7 @@ void WriteTable(const Report& report, const Layout& layout, const Sink& sink) {
   TableText out(layout.colour, sink);
   const Parts parts = PartsOf(report, layout.order);
   if (layout.header) {
-    WriteServer(report.Facts().server, out);
+    out.Line(0, ServerForPeople(report.Facts().server), Shade::Heading);
     WriteFirstScreen(report, parts, out);
     for (const ProcessorPart& part : parts) {
       WritePart(part, layout, out);

@@ -1,18 +1,9 @@
 #include "text/TextEscape.h"
 
-#include "text/HexBytes.h"
-#include "text/Utf8.h"
-
-#include <algorithm>
-#include <span>
+#include "text/Rewrite.h"
 
 namespace strake::text {
 namespace {
-
-struct Range {
-  char32_t first;
-  char32_t last;
-};
 
 // What a terminal does not show as itself: controls, ends of lines and
 // paragraphs, and whatever Unicode calls ignorable by default.
@@ -38,47 +29,6 @@ constexpr Range kUnshown[] = {
     {0xE0000, 0xE0FFF},  // tags and variation selectors
 };
 
-// What a reader of JSON cannot be expected to leave alone.
-constexpr Range kEscapedInJson[] = {
-    {0x007F, 0x009F},  // delete, and the controls of eight-bit terminals
-    {0x061C, 0x061C},  // Arabic letter mark
-    {0x200E, 0x200F},  // direction marks
-    {0x202A, 0x202E},  // direction embeddings and overrides
-    {0x2066, 0x2069},  // direction isolates
-};
-
-bool IsIn(std::span<const Range> ranges, char32_t value) {
-  return std::ranges::any_of(
-      ranges, [value](const Range& one) { return value >= one.first && value <= one.last; });
-}
-
-bool IsPlain(char character) { return character >= ' ' && character <= '~'; }
-
-// Keeps printable ASCII and escapes bytes that are not valid UTF-8; of any
-// other code point and its bytes the function appends what it likes.
-template <typename Function>
-std::string Rewrite(std::string_view text, const Function& append) {
-  std::string out;
-  out.reserve(text.size());
-  while (true) {
-    const auto plainEnd = std::ranges::find_if_not(text, IsPlain);
-    const auto plain = static_cast<std::size_t>(plainEnd - text.begin());
-    out += text.substr(0, plain);
-    text.remove_prefix(plain);
-    if (text.empty()) {
-      return out;
-    }
-    const CodePoint codePoint = DecodeFront(text);
-    const std::size_t taken = std::max<std::size_t>(codePoint.length, 1);
-    if (codePoint.length == 0) {
-      AppendEscapedByte(out, static_cast<unsigned char>(text.front()));
-    } else {
-      append(out, codePoint.value, text.substr(0, taken));
-    }
-    text.remove_prefix(taken);
-  }
-}
-
 void AppendForPeople(std::string& out, char32_t value, std::string_view bytes) {
   switch (value) {
     case U'\n':
@@ -97,19 +47,21 @@ void AppendForPeople(std::string& out, char32_t value, std::string_view bytes) {
     out += bytes;
     return;
   }
-  for (const char byte : bytes) {
-    AppendEscapedByte(out, static_cast<unsigned char>(byte));
-  }
+  AppendEscapedBytes(out, bytes);
 }
 
 void AppendForJson(std::string& out, char32_t value, std::string_view bytes) {
-  if (!IsIn(kEscapedInJson, value)) {
+  if (!IsIn(kTurningOrControlling, value)) {
     out += bytes;
     return;
   }
   out += "\\u";
-  AppendHexPair(out, static_cast<unsigned char>(value >> 8U));
-  AppendHexPair(out, static_cast<unsigned char>(value & 0xFFU));
+  AppendFourDigits(out, value);
+}
+
+template <typename Append>
+std::string RewriteBeyondAscii(std::string_view text, const Append& append) {
+  return Rewrite(text, IsPrintableAscii, append, AppendEscapedByte);
 }
 
 }  // namespace
@@ -120,12 +72,14 @@ void AppendEscapedByte(std::string& out, unsigned char byte) {
 }
 
 std::string ToValidUtf8(std::string_view text) {
-  return Rewrite(
+  return RewriteBeyondAscii(
       text, [](std::string& out, char32_t /*value*/, std::string_view bytes) { out += bytes; });
 }
 
-std::string EscapeForPeople(std::string_view text) { return Rewrite(text, AppendForPeople); }
+std::string EscapeForPeople(std::string_view text) {
+  return RewriteBeyondAscii(text, AppendForPeople);
+}
 
-std::string EscapeJson(std::string_view json) { return Rewrite(json, AppendForJson); }
+std::string EscapeJson(std::string_view json) { return RewriteBeyondAscii(json, AppendForJson); }
 
 }  // namespace strake::text

@@ -139,9 +139,9 @@ TEST(CommandLine, AsksForSensorsAloneWhenOnlySomeOfThemAreWanted) {
   using Names = std::vector<std::string>;
   EXPECT_EQ(Collect({"--sensor", "fan*"}).classes, Names{"VELKSG_SP_NumericSensor"});
   EXPECT_EQ(Collect({"--sensor", "fan*"}).selection.sensor, "fan*");
-  EXPECT_EQ(Collect({"--sensor", "fan*", "--class", "system"}).classes,
-            Names{"VELKSG_SP_ComputerSystem"});
-  EXPECT_EQ(Collect({"--sensor", "fan*", "--query", ""}).classes, Names{});
+  EXPECT_EQ(Collect({"--sensor", "fan*", "--class", "system", "--class", "sensors"}).classes,
+            (Names{"VELKSG_SP_ComputerSystem", "VELKSG_SP_NumericSensor"}));
+  EXPECT_EQ(Collect({"--sensor", "fan*", "--query", "VELKSG_SP_NumericSensor"}).classes, Names{});
 }
 
 TEST(CommandLine, TakesWhatIsSelectedAndHowItIsLaidOut) {
@@ -202,7 +202,8 @@ TEST(CommandLine, RefusesWhatItDoesNotKnow) {
     std::string expected;
   };
   const std::vector<Case> cases = {
-      {{}, "a subcommand was expected: collect, check, diff, replay, classes, help or version"},
+      {{},
+       "a subcommand was expected: collect, check, diff, schema, replay, classes, help or version"},
       {{"gather"}, "there is no subcommand 'gather'"},
       {{""}, "there is no subcommand ''"},
       {{"colect", "--server", "s"}, "there is no subcommand 'colect', did you mean 'collect'?"},
@@ -258,6 +259,11 @@ TEST(CommandLine, RefusesWhatItDoesNotKnow) {
        "--sort: the format json has no layout to choose, expected --format table"},
       {{"--output", "a.json", "--no-header"},
        "--no-header: the format json has no layout to choose, expected --format table"},
+      {{"--sensor", "fan*", "--class", "system"},
+       "--sensor: VELKSG_SP_NumericSensor is not asked for"},
+      {{"--sensor", "fan*", "--query", ""}, "--sensor: VELKSG_SP_NumericSensor is not asked for"},
+      {{"--filter", "dial-in.LoginID=*", "--class", "system"},
+       "--filter: VELKSG_ServProc_DialProtocolEndpoint2 is not asked for"},
       {{"--server", "-", "--limits", "-"}, "--server and --limits: both are standard input"},
       {{"--limits="}, "--limits: the name of a file was expected"},
       {{"--output", ""}, "--output: the name of a file was expected"},
@@ -278,6 +284,58 @@ TEST(CommandLine, RefusesWhatItDoesNotKnow) {
     one.words.insert(one.words.begin(), "check");
     EXPECT_EQ(RefusalOf(one.words), one.expected + " (see strake check --help)");
   }
+}
+
+TEST(CommandLine, TakesTwoReportsToCompare) {
+  const auto options = std::get<app::DiffOptions>(Parse({"diff", "a", "-"}));
+  EXPECT_EQ(options.before, "a");
+  EXPECT_EQ(options.after, "-");
+  EXPECT_EQ(options.tolerancePercent, 0);
+  EXPECT_EQ(options.write, compare::WriteDiffTable);
+  EXPECT_FALSE(options.output);
+  const auto more = std::get<app::DiffOptions>(
+      Parse({"diff", "--tolerance", "2.5", "a", "b", "--format", "json", "--output", "o"}));
+  EXPECT_EQ(more.tolerancePercent, 2.5);
+  EXPECT_EQ(more.write, compare::WriteDiffJson);
+  EXPECT_EQ(more.output, "o");
+  const struct {
+    Words words;
+    std::string expected;
+  } cases[] = {
+      {{}, "before is required"},
+      {{"a"}, "after is required"},
+      {{"a", "b", "c"}, "nothing takes the word 'c'"},
+      {{"-", "-"}, "both reports are standard input"},
+      {{"a", ""}, "after: the name of a file was expected"},
+      {{"a", "b", "--format", "csv"}, "--format: there is no format 'csv', expected table or json"},
+      {{"a", "b", "--tolerance", "-1"},
+       "--tolerance: '-1' is no percentage, expected a number from 0"},
+      {{"a", "b", "--tolerance", "5%"},
+       "--tolerance: '5%' is no percentage, expected a number from 0"},
+      {{"a", "b", "--tolerance", "inf"},
+       "--tolerance: 'inf' is no percentage, expected a number from 0"},
+  };
+  for (const auto& one : cases) {
+    Words words = one.words;
+    words.insert(words.begin(), "diff");
+    EXPECT_EQ(RefusalOf(words), one.expected + " (see strake diff --help)");
+  }
+}
+
+TEST(CommandLine, TakesEveryFormOfTheSchema) {
+  EXPECT_EQ(std::get<app::SchemaOptions>(Parse({"schema"})).format->name, "mof");
+  const std::string help = std::get<app::TextAnswer>(Parse({"schema", "--help"})).text;
+  for (const schema::Format& format : schema::Formats()) {
+    const std::string name(format.name);
+    const auto options =
+        std::get<app::SchemaOptions>(Parse({"schema", "--format", name.c_str(), "--output", "o"}));
+    EXPECT_EQ(options.format, &format);
+    EXPECT_EQ(options.output, "o");
+    EXPECT_NE(help.find(name), std::string::npos);
+  }
+  EXPECT_EQ(RefusalOf({"schema", "--format", "json"}),
+            "--format: there is no format 'json', expected " + schema::FormatNames() +
+                " (see strake schema --help)");
 }
 
 TEST(CommandLine, RefusesOptionsThatContradictEachOther) {
@@ -333,7 +391,8 @@ TEST(CommandLine, TakesHelpAndVersionAsWords) {
   const auto text = [](const Words& words) { return std::get<app::TextAnswer>(Parse(words)).text; };
   EXPECT_EQ(text({"help"}), text({"--help"}));
   EXPECT_EQ(text({"version"}), text({"--version"}));
-  for (const char* const subject : {"collect", "check", "classes", "help", "version"}) {
+  for (const char* const subject :
+       {"collect", "check", "diff", "schema", "replay", "classes", "help", "version"}) {
     EXPECT_EQ(text({"help", subject}), text({subject, "--help"}));
     EXPECT_NE(text({"help", subject}), text({"help"}));
     EXPECT_NE(text({"help", subject}).find(std::string("Usage: strake ") + subject),

@@ -1,10 +1,12 @@
 // The command from outside: what it prints and how it ends.
 #include "report/Formats.h"
 #include "report/Timestamp.h"
+#include "schema/Formats.h"
 #include "tests/app/Command.h"
 #include "tests/support/TemporaryFolder.h"
 
 #include <chrono>
+#include <filesystem>
 #include <gtest/gtest.h>
 #include <sstream>
 #include <unistd.h>
@@ -266,6 +268,7 @@ TEST_F(CommandTest, EndsWithThreeWhenAFindingIsAsGraveAsItIsToldToFailOn) {
        0},
   };
   for (const auto& one : cases) {
+    std::filesystem::remove(fFolder / "report");
     std::vector<std::string> words = {"collect", "--output", fFolder / "report", "--quiet"};
     words.insert(words.end(), one.words.begin(), one.words.end());
     EXPECT_EQ(Strake(words).status, one.status) << testing::PrintToString(one.words);
@@ -295,7 +298,8 @@ TEST_F(CommandTest, TellsFindingsOnStandardErrorWhereTheFormatHasNoPlaceForThem)
     const std::string expected =
         format.findings == report::FindingsGo::InReport
             ? ""
-            : "strake: warning: 5 of 42 sensors on SP 1 did not answer: Planar Voltage -5v, CPU 3 "
+            : "strake: warning: SP 1: 5 of 42 sensors on SP 1 did not answer: Planar Voltage -5v, "
+              "CPU 3 "
               "temperature, CPU 4 temperature, DASD Sensor 2 Temperature, Fan 16 speed\n";
     EXPECT_EQ(Strake(all).err, expected) << format.name;
     all.emplace_back("--quiet");
@@ -362,6 +366,32 @@ TEST_F(CommandTest, AsksEachOfAHundredAndThirtyServiceProcessorsWithoutACount) {
   EXPECT_NE(outcome.out.find("SRV1:Node130\n"), std::string::npos);
   EXPECT_NE(outcome.out.find("\n130 instances, 1 query, 130 service processors\n"),
             std::string::npos);
+}
+
+TEST_F(CommandTest, HoldsTheClockOfAServiceProcessorBesideTheHosts) {
+  const auto page = [this](const std::string& localTime) {
+    std::string text = kServer;
+    text.insert(1, "\"local_time\": \"" + localTime + "\", ");
+    return Strake({"collect", "--class", "system", "--format", "html", "--server",
+                   fFolder.Write("clock", text)})
+        .out;
+  };
+  EXPECT_NE(page("20100615154533.000000+000").find("3 s behind"), std::string::npos);
+  EXPECT_NE(page("20100615134525.000000-120").find("5 s ahead"), std::string::npos);
+}
+
+TEST_F(CommandTest, WritesEveryFormOfTheSchema) {
+  for (const schema::Format& format : schema::Formats()) {
+    const std::string name(format.name);
+    EXPECT_EQ(Strake({"schema", "--format", name}), (Outcome{0, format.write(), ""}));
+    EXPECT_EQ(Strake({"schema", "--format", name, "--output", fFolder / "schema"}),
+              (Outcome{0, "", ""}));
+    EXPECT_EQ(ReadFile(fFolder / "schema"), format.write());
+  }
+  const Outcome refused = Strake({"schema", "--output", fFolder / "none/schema"});
+  EXPECT_EQ(refused.status, 1);
+  EXPECT_EQ(refused.out, "");
+  EXPECT_EQ(std::count(refused.err.begin(), refused.err.end(), '\n'), 1);
 }
 
 TEST_F(CommandTest, PrintsHelpAndVersionOnStandardOutput) {

@@ -70,6 +70,9 @@ TEST(LimitsFile, RefusesWithTheLineAndWhatWasExpected) {
       {"limit = 3", "line 1: " + tables},
       {"\n[limit]\nsp = 1", "line 2: " + tables},
       {"limit = [3]", "line 1: " + tables},
+      {"\nlimit = []", "line 2: there is no rule in limit"},
+      {"# " + std::string(998, 'a'), "has no [[limit]], and so no limits"},
+      {"\n# " + std::string(999, 'a') + "\n", "line 2: a line has at most 1000 bytes"},
       {"[[limits]]\n", "line 1: there is no key \"limits\", did you mean 'limit'?"},
       {"[[limit]]\nuper_warning = 1",
        "line 2: there is no key \"uper_warning\", did you mean 'upper_warning'?"},
@@ -104,6 +107,22 @@ TEST(LimitsFile, RefusesBrokenTomlOnOneLineWithItsPlace) {
     const std::string refusal = RefusalOf(text);
     EXPECT_EQ(refusal.substr(0, 18), "limits.toml: line ") << text;
     EXPECT_EQ(refusal.find('\n'), std::string::npos) << refusal;
+  }
+}
+
+// The library takes such keys apart by recursion.
+TEST(LimitsFile, RefusesDeepKeysOnALineOfAnyLength) {
+  for (const std::size_t depth : {std::size_t{2}, std::size_t{490}, std::size_t{120'000}}) {
+    std::string key = "a";
+    for (std::size_t i = 1; i < depth; ++i) {
+      key += ".a";
+    }
+    for (const std::string& text :
+         {key + " = 1", "[" + key + "]", "[[" + key + "]]\n" + key + "=1"}) {
+      EXPECT_EQ(RefusalOf(text), depth < 1000
+                                     ? "limits.toml: line 1: there is no key \"a\""
+                                     : "limits.toml: line 1: a line has at most 1000 bytes");
+    }
   }
 }
 

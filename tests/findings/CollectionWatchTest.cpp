@@ -91,7 +91,7 @@ TEST(CollectionWatch, AddsToFindingsAndReplacesTheRest) {
   Watch(watch, Scenario::Orlo().server, {kComputer});
   report::Collected collected;
   collected.findings.push_back({});
-  collected.processors.push_back({7, true});
+  collected.processors.push_back({7, report::Answer::Yes});
   collected.silentSensors.push_back({7, "x", report::SensorKind::Fan});
   watch.AddTo(collected);
   ASSERT_EQ(collected.findings.size(), 2U);

@@ -16,6 +16,8 @@ using platform::BoundaryCall;
 constexpr int kLowest = std::numeric_limits<int>::min();
 constexpr int kHighest = std::numeric_limits<int>::max();
 
+const std::string kSensor = Id("2.3.16");
+
 std::span<const unsigned char> View(const std::string& bytes) {
   return {reinterpret_cast<const unsigned char*>(bytes.data()), bytes.size()};
 }
@@ -43,6 +45,17 @@ TEST(HostileCalls, OfNothingTellNothing) {
   const report::Collected collected = WhatItTells(CollectionWatch());
   EXPECT_EQ(FindingLines(collected), Lines{});
   EXPECT_EQ(ProcessorLines(collected), Lines{});
+}
+
+TEST(HostileCalls, TellOfAnSpWithoutPresenceTestWhetherAnythingCame) {
+  CollectionWatch watch;
+  Send(watch, 0, Id("4.4.1"), false, 0);
+  EXPECT_EQ(ProcessorLines(WhatItTells(watch)), Lines{"1 silent"});
+  Send(watch, 1, kSensor, false, 0);
+  EXPECT_EQ(ProcessorLines(WhatItTells(watch)), (Lines{"1 silent", "2 silent"}));
+  Send(watch, 0, Id("4.4.2"), true, 3);
+  Send(watch, 1, kSensor, true, 3);
+  EXPECT_EQ(ProcessorLines(WhatItTells(watch)), (Lines{"1 answered", "2 answered"}));
 }
 
 TEST(HostileCalls, KeepAnySpNumber) {

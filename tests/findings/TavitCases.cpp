@@ -82,7 +82,14 @@ std::vector<WatchCase> ListCases() {
        Tavit("5126", kBladeLengths, [](Scenario& scenario) { scenario.Kestle(kFans, Failure()); }),
        {kSensors},
        kOneAnswered},
-      {"no sensors asked for", Tavit("9999", {0, 0, 0}), {kNetwork, kDial, kComputer, {}}},
+      {"no sensors asked for",
+       Tavit("9999", {0, 0, 0}),
+       {kNetwork, kDial, kComputer, {}},
+       kOneNotAsked},
+      {"sensors asked for in one query of two",
+       Tavit("5125", kNembroLengths),
+       {kNetwork, kSensors},
+       kOneAnswered},
       {"a fan list that does not come",
        Pilkar(kFans, Failure(List(16), 32)),
        {kSensors},
@@ -104,7 +111,7 @@ std::vector<WatchCase> ListCases() {
        {kSensors},
        kOneAnswered,
        {"warning list-length 1: the fan list of SP 1 (ALERT_FAN_INFORMATION) stated length 17, "
-        "expected 16 or 18 or 22 for Pilkar/Mossel/Fendra",
+        "expected 16, 18 or 22 for Pilkar/Mossel/Fendra",
         "warning sensor-unanswered 1: 5 of 16 sensors on SP 1 did not answer: " + kFiveFans},
        kFiveFansSilent},
       {"a temperature list without bytes",
@@ -173,7 +180,7 @@ WatchCase Unknown(const std::string& machine, const std::string& shown) {
   return {"the machine type " + shown,
           Tavit(machine, kNembroLengths),
           WholeCollectionQueries(),
-          kOneSilent,
+          kOneNotAsked,
           {"warning machine-unknown 1: no family of Tavit machines has the machine type \"" +
            shown + "\", so the sensors of the Tavit processor were not read"}};
 }
@@ -192,15 +199,20 @@ std::vector<WatchCase> MachineCases() {
       {"a host that does not tell the machine type",
        ThrowingHost("no such\nfile"),
        {kSensors},
-       kOneSilent,
+       kOneNotAsked,
        {"warning machine-unknown 1: the host could not tell the machine type (no such\\x0Afile), "
         "so the sensors of the Tavit processor were not read"}},
-      {"a processor that is held", Held(false, true), WholeCollectionQueries(), kOneSilent, {held}},
+      {"a processor that is held",
+       Held(false, true),
+       WholeCollectionQueries(),
+       kOneNotAsked,
+       {held}},
       {"a management server that is stopped", Held(true, true), {kSensors}, kOneAnswered},
       {"a management server without its library", Held(false, false), {kSensors}, kOneAnswered},
       {"a processor that is held while nobody asks for sensors",
        Held(false, true),
-       {kNetwork, kComputer}},
+       {kNetwork, kComputer},
+       kOneNotAsked},
   };
 }
 

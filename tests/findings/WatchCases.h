@@ -28,6 +28,7 @@ inline const Classes kNetwork = cim::ClassNamesOf(cim::QueryGroup::Network);
 inline const Classes kDial = cim::ClassNamesOf(cim::QueryGroup::Dial);
 inline const Lines kOneAnswered = {"1 answered"};
 inline const Lines kOneSilent = {"1 silent"};
+inline const Lines kOneNotAsked = {"1 not asked"};
 
 const std::vector<WatchCase>& OrloCases();
 const std::vector<WatchCase>& TavitCases();

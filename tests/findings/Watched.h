@@ -8,6 +8,7 @@
 #include "tests/support/Scenario.h"
 #include "tests/support/WholeCollection.h"
 
+#include <map>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -50,12 +51,14 @@ inline Lines FindingLines(const report::Collected& collected) {
   return lines;
 }
 
-// "1 answered" or "2 silent".
+// "1 answered", "2 silent" or "3 not asked".
 inline Lines ProcessorLines(const report::Collected& collected) {
   Lines lines;
+  const std::map<report::Answer, std::string> texts = {{report::Answer::Yes, " answered"},
+                                                       {report::Answer::No, " silent"},
+                                                       {report::Answer::NotAsked, " not asked"}};
   for (const report::Processor& processor : collected.processors) {
-    lines.push_back(std::to_string(processor.number) +
-                    (processor.answered ? " answered" : " silent"));
+    lines.push_back(std::to_string(processor.number) + texts.at(processor.answer));
   }
   return lines;
 }

@@ -51,7 +51,7 @@ TEST(FirstScreen, CountsSensorsByKindWithTheirLowestAndHighestReadings) {
        "  Temperatures  1  30 °C\n  Fans          1  9 %\n  Power         1  12 W\n"},
   };
   for (const auto& one : cases) {
-    EXPECT_EQ(FirstScreenOf({.instances = one.sensors, .processors = {{1, true}}}),
+    EXPECT_EQ(FirstScreenOf({.instances = one.sensors, .processors = {{1, report::Answer::Yes}}}),
               "SP 1  answered\n" + one.lines + "\nFindings: none\n");
   }
 }
@@ -113,7 +113,7 @@ TEST(FirstScreen, ShowsSensorsOfNoServiceProcessorAndNoOtherInstanceOfNone) {
 }
 
 TEST(FirstScreen, HasTheFiveGravestFindingsAndCountsTheOthers) {
-  report::Collected collected{.processors = {{1, true}}};
+  report::Collected collected{.processors = {{1, report::Answer::Yes}}};
   const auto add = [&collected](Severity severity, int count) {
     for (int i = 1; i <= count; ++i) {
       collected.findings.push_back(
@@ -150,7 +150,7 @@ Findings: 3 critical, 5 warnings, 7 info
 report::Collected ManyProcessors(int count) {
   report::Collected collected;
   for (int sp = 1; sp <= count; ++sp) {
-    collected.processors.push_back({sp, true});
+    collected.processors.push_back({sp, report::Answer::Yes});
     collected.instances.push_back(Sensor(static_cast<std::uint8_t>(sp), "A", sp, 5, 0));
   }
   return collected;
@@ -169,7 +169,7 @@ SP 4  answered
 Findings: none
 )");
   report::Collected five = ManyProcessors(5);
-  five.processors[1].answered = false;
+  five.processors[1].answer = report::Answer::No;
   five.instances.erase(five.instances.begin() + 1);
   five.silentSensors = {{4, "B", SensorKind::Fan}};
   EXPECT_EQ(FirstScreenOf(five), R"(SP 1  answered        1 sensor
@@ -191,7 +191,7 @@ TEST(FirstScreen, StaysOneOfManyServiceProcessorsAndShowsThoseInTrouble) {
   }
   EXPECT_EQ(FirstScreenOf(collected), expected + "and 238 more, all answered\n\nFindings: none\n");
 
-  collected.processors[199].answered = false;
+  collected.processors[199].answer = report::Answer::No;
   collected.findings = {{Severity::Info, FindingCode::Partial, 210, "info"},
                         {Severity::Warning, FindingCode::Partial, 220, "warning"},
                         {Severity::Critical, FindingCode::Partial, 230, "critical"},
@@ -207,10 +207,34 @@ TEST(FirstScreen, StaysOneOfManyServiceProcessorsAndShowsThoseInTrouble) {
   EXPECT_EQ(screen.find("SP 13 "), std::string::npos);
 
   for (report::Processor& processor : collected.processors) {
-    processor.answered = processor.number > 20;
+    processor.answer = processor.number > 20 ? report::Answer::Yes : report::Answer::No;
   }
   EXPECT_NE(FirstScreenOf(collected).find("\nand 238 more, 4 of which did not answer\n"),
             std::string::npos);
+}
+
+TEST(FirstScreen, SaysOfTheRestHowManyDidNotAnswerOrWereNotAsked) {
+  using report::Answer;
+  const struct {
+    int silent;
+    int notAsked;
+    std::string rest;
+  } cases[] = {
+      {0, 0, "and 4 more, all answered\n"},
+      {17, 0, "and 4 more, 1 of which did not answer\n"},
+      {20, 0, "and 4 more, none of which answered\n"},
+      {0, 20, "and 4 more, 4 of which were not asked\n"},
+      {0, 1, "and 4 more, 1 of which was not asked\n"},
+      {17, 3, "and 4 more, 1 of which did not answer, 3 of which were not asked\n"},
+  };
+  for (const auto& one : cases) {
+    report::Collected collected;
+    for (int sp = 1; sp <= 20; ++sp) {
+      const Answer others = sp > 20 - one.notAsked ? Answer::NotAsked : Answer::Yes;
+      collected.processors.push_back({sp, sp <= one.silent ? Answer::No : others});
+    }
+    EXPECT_NE(FirstScreenOf(collected).find("\n" + one.rest), std::string::npos) << one.rest;
+  }
 }
 
 }  // namespace

@@ -2,20 +2,27 @@
 #include "report/Formats.h"
 #include "tests/report/Instances.h"
 
+#include <algorithm>
+#include <cctype>
 #include <gtest/gtest.h>
 #include <set>
 
 namespace strake::tests {
 namespace {
 
-TEST(Formats, AreTableAndJson) {
+TEST(Formats, AreThese) {
   const struct {
     std::string name;
     std::string ending;
     std::string mediaType;
+    report::Classes classes = report::Classes::Any;
   } expected[] = {
       {"table", ".txt", "text/plain; charset=utf-8"},
       {"json", ".json", "application/json"},
+      {"csv", ".csv", "text/csv; charset=utf-8", report::Classes::ExactlyOne},
+      {"html", ".html", "text/html; charset=utf-8"},
+      {"mof", ".mof", "text/plain; charset=utf-8"},
+      {"cimxml", ".xml", "application/xml; charset=utf-8"},
   };
   ASSERT_EQ(report::Formats().size(), std::size(expected));
   for (std::size_t i = 0; i < std::size(expected); ++i) {
@@ -23,8 +30,9 @@ TEST(Formats, AreTableAndJson) {
     EXPECT_EQ(format.name, expected[i].name);
     EXPECT_EQ(format.fileEnding, expected[i].ending);
     EXPECT_EQ(format.mediaType, expected[i].mediaType);
+    EXPECT_EQ(format.classes, expected[i].classes);
   }
-  EXPECT_EQ(report::FormatNames(), "table or json");
+  EXPECT_EQ(report::FormatNames(), "table, json, csv, html, mof or cimxml");
 }
 
 TEST(Formats, AreFoundByTheirNamesAndEndingsAndNoOthers) {
@@ -35,11 +43,16 @@ TEST(Formats, AreFoundByTheirNamesAndEndingsAndNoOthers) {
     EXPECT_TRUE(endings.insert(format.fileEnding).second) << format.fileEnding;
     EXPECT_EQ(report::FindFormat(format.name), &format);
     EXPECT_EQ(report::FindFormatOfFile("a/b" + std::string(format.fileEnding)), &format);
+    std::string upper(format.fileEnding);
+    std::ranges::transform(upper, upper.begin(), [](unsigned char character) {
+      return static_cast<char>(std::toupper(character));
+    });
+    EXPECT_EQ(report::FindFormatOfFile("A" + upper), &format);
   }
   for (const char* const unknown : {"", "Table", "xml", "json ", "jso"}) {
     EXPECT_EQ(report::FindFormat(unknown), nullptr) << unknown;
   }
-  for (const char* const unknown : {"", "json", "a.jsonl", "a.JSON", "a.json/b", "/dev/null"}) {
+  for (const char* const unknown : {"", "json", "a.jsonl", "a.json/b", "/dev/null"}) {
     EXPECT_EQ(report::FindFormatOfFile(unknown), nullptr) << unknown;
   }
 }

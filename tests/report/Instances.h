@@ -43,8 +43,31 @@ inline cim::StoredInstance Sensor(std::uint8_t node, const std::string& name, in
                                               {"UnitModifier", modifier}});
 }
 
+// Every property of every class, texts with the given one.
+inline std::vector<cim::StoredInstance> OneOfEachClass(const std::string& text) {
+  std::vector<cim::StoredInstance> instances;
+  for (const cim::SchemaClass& schema : cim::SchemaClasses()) {
+    cim::StoredInstance& instance = instances.emplace_back();
+    instance.schema = &schema;
+    for (const cim::SchemaProperty& property : schema.properties) {
+      if (property.type == cim::CimType::String) {
+        instance.properties.push_back({&property, text});
+      }
+    }
+  }
+  return instances;
+}
+
 // 15 June 2010, 13:45:30, two hours behind.
 inline cim::Value SomeTime() { return cim::DateTime("20100615134530.000000-120"); }
+
+// Above which every sensor is to be looked at.
+inline report::Limits UpperLimits(double warning, double critical) {
+  report::LimitRule rule;
+  rule.upperWarning = report::Bound{warning, std::to_string(warning)};
+  rule.upperCritical = report::Bound{critical, std::to_string(critical)};
+  return {rule};
+}
 
 inline report::CollectionFacts SomeFacts() {
   return {.server = {"rack7", "", "orlo"},

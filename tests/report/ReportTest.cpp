@@ -11,21 +11,6 @@ namespace {
 using report::Report;
 using report::Secrets;
 
-// Every property of every class, texts with the given one.
-std::vector<cim::StoredInstance> OneOfEachClass(const std::string& text) {
-  std::vector<cim::StoredInstance> instances;
-  for (const cim::SchemaClass& schema : cim::SchemaClasses()) {
-    cim::StoredInstance& instance = instances.emplace_back();
-    instance.schema = &schema;
-    for (const cim::SchemaProperty& property : schema.properties) {
-      if (property.type == cim::CimType::String) {
-        instance.properties.push_back({&property, text});
-      }
-    }
-  }
-  return instances;
-}
-
 // The properties that hold something else than the text.
 std::vector<std::string> ChangedIn(const Report& report, const std::string& text) {
   std::vector<std::string> changed;

@@ -23,7 +23,7 @@ Collected TwoNodes() {
   return {.facts = SomeFacts(),
           .instances = {Interface(1, "a"), Sensor(1, "Fan 1", 1, 65, 0), Interface(2, "b"),
                         Sensor(2, "Fan 2", 2, 65, 0), Instance("VELKSG_SP_ComputerSystem", {})},
-          .processors = {{1, true}, {2, true}},
+          .processors = {{1, report::Answer::Yes}, {2, report::Answer::Yes}},
           .silentSensors = {{1, "Fan 3", SensorKind::Fan}, {2, "CPU Vtt", SensorKind::Voltage}},
           .findings = {{Severity::Warning, FindingCode::SensorUnanswered, 1, "Fan 3"},
                        {Severity::Warning, FindingCode::SensorUnanswered, 2, "CPU Vtt"},
@@ -75,6 +75,9 @@ TEST(Selection, TellsOfAServiceProcessorThatWasNotFound) {
   report::Select(collected, {.node = 3});
   EXPECT_EQ(collected.findings.back(),
             (Finding{Severity::Warning, FindingCode::NoSp, 3, "SP 3 was not found"}));
+  // Where none is known, another finding says why.
+  Collected none = {.findings = {{Severity::Critical, FindingCode::NotCommunicating, {}, "no"}}};
+  EXPECT_EQ(Left({.node = 1}, none), "| | | no");
 }
 
 TEST(Selection, LeavesSensorsByTheirNamesAndOtherClassesAlone) {
@@ -118,6 +121,8 @@ TEST(Selection, LeavesTheInstancesOfAClassWhosePropertyFits) {
 TEST(Selection, TakesFiltersOfSensorsForSilentOnesThatHaveANameAlone) {
   EXPECT_EQ(Left({.filters = {Filter("VELKSG_SP_NumericSensor", "SensorDescription", "*n*")}}),
             "a Fan 1 b Fan 2 system | 1 2 | Fan 3 | Fan 3 4.4.1 held");
+  EXPECT_EQ(Left({.filters = {Filter("VELKSG_SP_NumericSensor", "SourceNode", "2")}}),
+            "a b Fan 2 system | 1 2 | CPU Vtt | CPU Vtt 4.4.1 held");
   EXPECT_EQ(Left({.filters = {Filter("VELKSG_SP_NumericSensor", "CurrentReading", "*")}}),
             "a Fan 1 b Fan 2 system | 1 2 | | 4.4.1 held");
 }

@@ -52,7 +52,7 @@ report::Report TroubledReport() {
             Instance("VELKSG_SP_ComputerSystem", {{"SourceNode", Node(2)}, {"Name", "SRV1:Node2"}}),
             Instance("VELKSG_SP_ComputerSystem",
                      {{"SourceNode", Node(1)}, {"Name", "SRV1:Node1"}, {"SPClock", SomeTime()}})},
-       .processors = {{1, true}, {2, true}, {3, false}},
+       .processors = {{1, report::Answer::Yes}, {2, report::Answer::Yes}, {3, report::Answer::No}},
        .silentSensors = {{1, "CPU 2", report::SensorKind::Temperature},
                          {1, "Fan 2", report::SensorKind::Fan}},
        .findings = {{report::Severity::Info, report::FindingCode::SensorUnanswered, 1,
@@ -322,8 +322,9 @@ TEST(TableReport, ColoursHeadingsAndWhatSomebodyHasToLookAt) {
 }
 
 TEST(TableReport, ShowsServiceProcessorsThatBroughtNothing) {
-  const report::Report report({.facts = SomeFacts(), .processors = {{1, false}, {2, true}}},
-                              report::Secrets::Masked);
+  const report::Report report(
+      {.facts = SomeFacts(), .processors = {{1, report::Answer::No}, {2, report::Answer::Yes}}},
+      report::Secrets::Masked);
   EXPECT_EQ(Written(report::WriteTable, report), R"(rack7 (orlo)
 
 SP 1  did not answer
@@ -338,6 +339,28 @@ Service processor 1
 No instances were collected.
 1 of 2 service processors did not answer
 0 instances, 1 query, 2 service processors
+)");
+}
+
+TEST(TableReport, CountsNoServiceProcessorThatWasNotAskedAsSilent) {
+  const report::Report report(
+      {.facts = SomeFacts(),
+       .processors = {{1, report::Answer::NotAsked}},
+       .findings = {{report::Severity::Warning, report::FindingCode::Held, 1, "it is held"}}},
+      report::Secrets::Masked);
+  EXPECT_EQ(Written(report::WriteTable, report), R"(rack7 (orlo)
+
+SP 1  not asked
+
+Findings: 1 warning
+  warning  SP 1  it is held
+
+Service processor 1
+
+  not asked
+
+No instances were collected.
+0 instances, 1 query, 1 service processor
 )");
 }
 

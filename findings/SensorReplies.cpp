@@ -1,4 +1,4 @@
-#include "findings/SensorTallies.h"
+#include "findings/SensorReplies.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -16,7 +16,7 @@ unsigned char KnownLength(const TavitListReplies& replies, const TavitFamily& fa
   return *std::ranges::min_element(expected);
 }
 
-void AddList(std::vector<SensorTally>& sensors, const TavitListReplies& replies,
+void AddList(std::vector<SensorReplies>& sensors, const TavitListReplies& replies,
              const TavitFamily& family, TavitList list) {
   if (replies.replies.asked == 0) {
     return;
@@ -30,8 +30,8 @@ void AddList(std::vector<SensorTally>& sensors, const TavitListReplies& replies,
 
 }  // namespace
 
-std::vector<SensorTally> SensorTallies(const OrloFacts& sp) {
-  std::vector<SensorTally> sensors;
+std::vector<SensorReplies> SensorRepliesOf(const OrloFacts& sp) {
+  std::vector<SensorReplies> sensors;
   for (std::size_t place = 0; place < sp.sensors.size(); ++place) {
     const Tally& tally = sp.sensors.at(place);
     if (tally.asked > 0) {
@@ -42,8 +42,8 @@ std::vector<SensorTally> SensorTallies(const OrloFacts& sp) {
   return sensors;
 }
 
-std::vector<SensorTally> SensorTallies(const TavitFacts& tavit) {
-  std::vector<SensorTally> sensors;
+std::vector<SensorReplies> SensorRepliesOf(const TavitFacts& tavit) {
+  std::vector<SensorReplies> sensors;
   for (std::size_t family = 0; family < tavit.families.size(); ++family) {
     for (std::size_t list = 0; list < kTavitLists.size(); ++list) {
       AddList(sensors, tavit.families.at(family).at(list), std::span(kTavitFamilies)[family],

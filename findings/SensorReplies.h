@@ -10,15 +10,15 @@
 
 namespace strake::findings {
 
-struct SensorTally {
+struct SensorReplies {
   std::string_view name;  // as it is published
   report::SensorKind kind = report::SensorKind::Other;
   Tally tally;
 };
 
 // In the order in which they were asked for.
-std::vector<SensorTally> SensorTallies(const OrloFacts& sp);
+std::vector<SensorReplies> SensorRepliesOf(const OrloFacts& sp);
 // A list that did not come, or with a wrong length, stands for all its sensors.
-std::vector<SensorTally> SensorTallies(const TavitFacts& tavit);
+std::vector<SensorReplies> SensorRepliesOf(const TavitFacts& tavit);
 
 }  // namespace strake::findings

@@ -1,0 +1,33 @@
+// The options of `strake check`.
+#include "app/CommandLineParts.h"
+#include "app/Subcommands.h"
+
+namespace strake::app {
+namespace {
+
+constexpr const char* kCheckExamples =
+    R"(Every file gets a line, and a further one for each thing in it that nothing
+will ask for; - is standard input.
+
+Examples:
+  strake check rack7.server.json
+  strake check servers/*.server.json
+
+Exit status: 0 all descriptions are fine, 2 one is refused, 1 the check itself
+failed.)";
+
+}  // namespace
+
+CLI::App& AddCheck(CLI::App& app, CheckOptions& options) {
+  CLI::App& command = *app.add_subcommand("check", "Check server descriptions");
+  command.footer(kCheckExamples);
+  AddValue(command, "file", "FILE", "Server descriptions (*.server.json)",
+           [&options](const std::string& value) { options.files.emplace_back(value); })
+      ->required()
+      ->expected(1, CLI::detail::expected_max_vector_size)
+      ->allow_extra_args()
+      ->check(RefuseEmptyName);
+  return command;
+}
+
+}  // namespace strake::app

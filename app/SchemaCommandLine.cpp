@@ -1,0 +1,36 @@
+// The options of `strake schema`.
+#include "app/CommandLineParts.h"
+#include "app/Subcommands.h"
+
+namespace strake::app {
+namespace {
+
+constexpr const char* kSchemaExamples =
+    R"(Examples:
+  strake schema                         the classes for CIM tools, in MOF
+  strake schema --format json-schema --output report.schema.json
+  strake schema --format markdown)";
+
+}  // namespace
+
+CLI::App& AddSchema(CLI::App& app, SchemaOptions& options) {
+  CLI::App& command = *app.add_subcommand("schema", "Describe the classes and the JSON report");
+  command.footer(kSchemaExamples);
+  std::string contents;
+  for (const schema::Format& format : schema::Formats()) {
+    contents.append(contents.empty() ? "" : ", ").append(format.name);
+    contents.append(" (").append(format.content).append(1, ')');
+  }
+  AddValue(command, "--format", "FORMAT",
+           contents + "; default: " + std::string(schema::Formats().front().name),
+           [&options](const std::string& value) { options.format = schema::FindFormat(value); })
+      ->check([](const std::string& name) {
+        return schema::FindFormat(name) != nullptr
+                   ? ""
+                   : "there is no format '" + name + "', expected " + schema::FormatNames();
+      });
+  AddFile(command, "--output", "Where the text goes; default: standard output", options.output);
+  return command;
+}
+
+}  // namespace strake::app
