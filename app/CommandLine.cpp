@@ -124,15 +124,6 @@ TextAnswer Help(CLI::App& app, const std::string& subject) {
                    " (see strake --help)");
 }
 
-void AddCheck(CLI::App& command, CheckOptions& check) {
-  AddValue(command, "file", "FILE", "Server descriptions (*.server.json)",
-           [&check](const std::string& value) { check.files.emplace_back(value); })
-      ->required()
-      ->expected(1, CLI::detail::expected_max_vector_size)
-      ->allow_extra_args()
-      ->check(RefuseEmptyName);
-}
-
 }  // namespace
 
 CommandLine ParseCommandLine(int argc, const char* const* argv) {
