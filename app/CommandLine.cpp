@@ -20,6 +20,7 @@ constexpr const char* kExamples = R"(Examples:
   strake collect --format json --output report.json --trace run.trace
   strake check rack7.server.json        is this server description fine?
   strake diff yesterday.json today.json what changed?
+  strake replay run.trace --scrub       a server description out of a trace
   strake classes                        what can be asked for
   strake schema                         the same for CIM tools
 
@@ -139,6 +140,8 @@ CommandLine ParseCommandLine(int argc, const char* const* argv) {
   const CLI::App& diffCommand = AddDiff(app, diff);
   SchemaOptions schema;
   const CLI::App& schemaCommand = AddSchema(app, schema);
+  ReplayOptions replay;
+  const CLI::App& replayCommand = AddReplay(app, replay);
   const CLI::App& classesCommand =
       *app.add_subcommand("classes", "List the classes and their short names");
 
@@ -167,6 +170,9 @@ CommandLine ParseCommandLine(int argc, const char* const* argv) {
   if (diffCommand.parsed()) {
     CompleteDiff(diff);
     return diff;
+  }
+  if (replayCommand.parsed()) {
+    return replay;
   }
   if (schemaCommand.parsed()) {
     return schema;

@@ -3,6 +3,7 @@
 
 #include "app/CollectOptions.h"
 #include "app/DiffOptions.h"
+#include "app/ReplayOptions.h"
 #include "app/Schema.h"
 
 #include <filesystem>
@@ -21,8 +22,8 @@ struct TextAnswer {
   std::string text;
 };
 
-using CommandLine =
-    std::variant<CollectOptions, CheckOptions, DiffOptions, SchemaOptions, TextAnswer>;
+using CommandLine = std::variant<CollectOptions, CheckOptions, DiffOptions, ReplayOptions,
+                                 SchemaOptions, TextAnswer>;
 
 // Throws UsageError.
 CommandLine ParseCommandLine(int argc, const char* const* argv);

@@ -13,26 +13,13 @@ namespace {
 
 Server Named(const std::string& name, platform::ServerDescription description) {
   Server server;
-  server.facts = {name, description.description, std::string(KindName(description.sp.kind))};
+  server.facts = {name, description.description,
+                  std::string(platform::KindName(description.sp.kind))};
   server.description = std::move(description);
   return server;
 }
 
 }  // namespace
-
-std::string_view KindName(platform::SpKind kind) {
-  switch (kind) {
-    case platform::SpKind::Orlo:
-      return "orlo";
-    case platform::SpKind::Tavit:
-      return "tavit";
-    case platform::SpKind::Both:
-      return "both";
-    case platform::SpKind::None:
-      break;
-  }
-  return "none";
-}
 
 Server ReadServer(const std::filesystem::path& file) {
   const bool isStandardInput = file == kStandardInput;

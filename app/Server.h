@@ -6,7 +6,6 @@
 
 #include <filesystem>
 #include <string>
-#include <string_view>
 
 namespace strake::app {
 
@@ -14,9 +13,6 @@ struct Server {
   report::ServerFacts facts;
   platform::ServerDescription description;
 };
-
-// As the server description names it: "orlo".
-std::string_view KindName(platform::SpKind kind);
 
 inline constexpr const char* kStandardInput = "-";
 

@@ -4,6 +4,7 @@
 #include "os/FileIdentity.h"
 
 #include <string>
+#include <utility>
 
 namespace strake::app {
 namespace {
@@ -50,11 +51,29 @@ void RefuseBehind(const std::string& what, int descriptor, const NamedFile& outp
   }
 }
 
+// Against what is taken, and against each other.
+void RefuseSharedOutputs(std::vector<NamedFile> taken, const std::vector<NamedFile>& outputs) {
+  for (const NamedFile& output : outputs) {
+    for (const NamedFile& other : taken) {
+      RefuseSame(other, output);
+    }
+    RefuseBehind("standard output", os::kStandardOutput, output);
+    RefuseBehind("standard error", os::kStandardError, output);
+    taken.push_back(output);
+  }
+}
+
+bool IsStandardOutput(const OptionalFile& output) {
+  return !output || os::NamedDescriptor(*output) == os::kStandardOutput;
+}
+
 }  // namespace
 
 bool GoesToStandardOutput(const CollectOptions& options) {
-  return !options.output || os::NamedDescriptor(*options.output) == os::kStandardOutput;
+  return IsStandardOutput(options.output);
 }
+
+bool GoesToStandardOutput(const ReplayOptions& options) { return IsStandardOutput(options.output); }
 
 void RefuseSharedFiles(const CollectOptions& options) {
   std::vector<NamedFile> taken;
@@ -70,14 +89,17 @@ void RefuseSharedFiles(const CollectOptions& options) {
   }
   AddOutput(outputs, "--trace", options.trace);
   AddOutput(outputs, "--log", options.log);
-  for (const NamedFile& output : outputs) {
-    for (const NamedFile& other : taken) {
-      RefuseSame(other, output);
-    }
-    RefuseBehind("standard output", os::kStandardOutput, output);
-    RefuseBehind("standard error", os::kStandardError, output);
-    taken.push_back(output);
+  RefuseSharedOutputs(std::move(taken), outputs);
+}
+
+void RefuseSharedFiles(const ReplayOptions& options) {
+  std::vector<NamedFile> taken;
+  AddInput(taken, "the trace", options.trace);
+  std::vector<NamedFile> outputs;
+  if (!GoesToStandardOutput(options)) {
+    AddOutput(outputs, "--output", options.output);
   }
+  RefuseSharedOutputs(std::move(taken), outputs);
 }
 
 }  // namespace strake::app

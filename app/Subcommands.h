@@ -12,6 +12,7 @@ CLI::App& AddCollect(CLI::App& app, CollectOptions& options);
 CLI::App& AddCheck(CLI::App& app, CheckOptions& options);
 CLI::App& AddDiff(CLI::App& app, DiffOptions& options);
 CLI::App& AddSchema(CLI::App& app, SchemaOptions& options);
+CLI::App& AddReplay(CLI::App& app, ReplayOptions& options);
 
 // What follows from all options when they are taken. Both throw UsageError.
 void CompleteCollect(const CLI::App& command, CollectOptions& options);

@@ -4,7 +4,6 @@
 #include "text/DotNotation.h"
 
 #include <algorithm>
-#include <span>
 
 namespace strake::app {
 namespace {
@@ -16,11 +15,6 @@ using platform::SpDescription;
 using platform::SpKind;
 using Commands = std::map<Identifier, ReplySequence>;
 using Parts = std::vector<std::string>;
-
-std::string DotNotation(const Identifier& identifier) {
-  const std::vector<unsigned char> bytes(identifier.begin(), identifier.end());
-  return text::DotNotation(bytes);
-}
 
 void Tell(Parts& parts, const std::string& pointer, const std::string& reason) {
   parts.push_back("at " + pointer + ": " + reason);
@@ -47,7 +41,7 @@ void TellCommands(Parts& parts, const std::string& pointer, const Commands& comm
   }
   for (const auto& [identifier, replies] : commands) {
     const Asked asked = IsDotCommandAsked(identifier, sp);
-    const std::string place = pointer + "/" + DotNotation(identifier);
+    const std::string place = pointer + "/" + text::DotNotationOf(identifier);
     if (asked == Asked::Never) {
       Tell(parts, place, "no such command is ever sent");
     } else if (asked == Asked::BeyondCount) {
@@ -82,7 +76,7 @@ void TellOrlo(Parts& parts, const SpDescription& sp) {
   TellInstances(parts, sp);
   for (const auto& [identifier, count] : sp.components) {
     TellIf(!IsComponentCounted(identifier), parts, "/sp/components",
-           "nothing counts " + DotNotation(identifier) + ", whatever its fourth byte");
+           "nothing counts " + text::DotNotationOf(identifier) + ", whatever its fourth byte");
   }
 }
 

@@ -5,6 +5,7 @@
 #include "app/Diff.h"
 #include "app/Errors.h"
 #include "app/Messages.h"
+#include "app/Replay.h"
 #include "app/Schema.h"
 #include "os/OutputFile.h"
 #include "os/Signals.h"
@@ -23,6 +24,7 @@ struct Runner {
   int operator()(const CollectOptions& options) const { return Collect(options); }
   int operator()(const CheckOptions& options) const { return Check(options); }
   int operator()(const DiffOptions& options) const { return Diff(options); }
+  int operator()(const ReplayOptions& options) const { return Replay(options); }
   int operator()(const SchemaOptions& options) const {
     WriteSchema(options);
     return kExitDone;

@@ -58,11 +58,36 @@ class Characters {
   bool fIsEscaped = false;
 };
 
+// Line and column of a byte, as people count.
+std::string PlaceInText(std::string_view text, std::size_t offset) {
+  const std::string_view before = text.substr(0, offset);
+  const auto lines = std::ranges::count(before, '\n');
+  const std::size_t lastLine = before.rfind('\n') + 1;  // 0 when there is one line
+  return ": line " + std::to_string(lines + 1) + ", column " +
+         std::to_string(before.size() - lastLine + 1);
+}
+
+// The column alone, behind a source that names the line.
+std::string PlaceInLine(std::string_view /*line*/, std::size_t offset) {
+  return ", column " + std::to_string(offset + 1);
+}
+
+// A text, and how to say where in it something stands.
+struct Text {
+  std::string_view text;
+  const std::string& source;
+  std::string (*place)(std::string_view text, std::size_t offset);
+
+  [[nodiscard]] std::string SourceAndPlace(std::size_t offset) const {
+    return source + place(text, offset);
+  }
+};
+
 // Builds the values out of the library's parse events.
 class Builder : public nlohmann::json_sax<nlohmann::json> {
  public:
-  Builder(std::string_view text, const std::string& source, const Bounds& bounds)
-      : fText(text), fSource(source), fBounds(bounds) {}
+  Builder(const Text& text, const Bounds& bounds)
+      : fText(text), fSource(text.source), fBounds(bounds) {}
 
   Value Result() { return std::move(fRoot); }
 
@@ -99,7 +124,7 @@ class Builder : public nlohmann::json_sax<nlohmann::json> {
   bool Close();
   [[nodiscard]] std::string Pointer() const;
 
-  std::string_view fText;
+  const Text& fText;
   const std::string& fSource;
   Bounds fBounds;
   Value fRoot;
@@ -182,32 +207,31 @@ std::string Reason(std::string_view what) {
   return text::Printable(what);
 }
 
-// Line and column of a byte, as people count.
-std::string PlaceOf(std::string_view text, std::size_t offset) {
-  const std::string_view before = text.substr(0, offset);
-  const auto lines = std::ranges::count(before, '\n');
-  const std::size_t lastLine = before.rfind('\n') + 1;  // 0 when there is one line
-  return "line " + std::to_string(lines + 1) + ", column " +
-         std::to_string(before.size() - lastLine + 1);
-}
-
 bool Builder::parse_error(std::size_t position, const std::string& /*lastToken*/,
                           const nlohmann::detail::exception& error) {
-  throw text::InputError(fSource + ": " + PlaceOf(fText, position == 0 ? 0 : position - 1) + ": " +
+  throw text::InputError(fText.SourceAndPlace(position == 0 ? 0 : position - 1) + ": " +
                          Reason(error.what()));
+}
+
+Value Read(const Text& text, const Bounds& bounds) {
+  // The library would take a zero byte for the end of the text.
+  if (const std::size_t zero = text.text.find('\0'); zero != std::string_view::npos) {
+    throw text::InputError(text.SourceAndPlace(zero) + ": expected text, got a zero byte");
+  }
+  Builder builder(text, bounds);
+  nlohmann::json::sax_parse(Characters(text.text, 0), Characters(text.text, text.text.size()),
+                            &builder);
+  return builder.Result();
 }
 
 }  // namespace
 
 Value Read(std::string_view text, const std::string& source, const Bounds& bounds) {
-  // The library would take a zero byte for the end of the text.
-  if (const std::size_t zero = text.find('\0'); zero != std::string_view::npos) {
-    throw text::InputError(source + ": " + PlaceOf(text, zero) +
-                           ": expected text, got a zero byte");
-  }
-  Builder builder(text, source, bounds);
-  nlohmann::json::sax_parse(Characters(text, 0), Characters(text, text.size()), &builder);
-  return builder.Result();
+  return Read(Text{text, source, PlaceInText}, bounds);
+}
+
+Value ReadLine(std::string_view line, const std::string& source, const Bounds& bounds) {
+  return Read(Text{line, source, PlaceInLine}, bounds);
 }
 
 }  // namespace strake::json

@@ -16,6 +16,11 @@ std::string DotNotation(std::span<const unsigned char> identifier) {
   return text;
 }
 
+std::string DotNotationOf(std::string_view identifier) {
+  return DotNotation(
+      std::span(reinterpret_cast<const unsigned char*>(identifier.data()), identifier.size()));
+}
+
 std::optional<unsigned char> ParseDecimalByte(std::string_view text) {
   if (text.size() > 1 && text.front() == '0') {
     return std::nullopt;

@@ -10,6 +10,8 @@
 namespace strake::text {
 
 std::string DotNotation(std::span<const unsigned char> identifier);
+// Of bytes that are kept as a string.
+std::string DotNotationOf(std::string_view identifier);
 
 // The identifier's bytes; empty when the text is not written exactly so (a
 // number over 255, a leading zero, an empty part).

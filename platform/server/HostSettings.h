@@ -12,6 +12,8 @@ namespace strake::platform {
 struct HostAnswer {
   std::string text;  // the result, or the text of the exception
   bool throws = false;
+
+  bool operator==(const HostAnswer&) const = default;
 };
 
 struct HostSettings {

@@ -10,6 +10,8 @@ struct Reply {
   std::string bytes;
   int length = 0;  // as reported; any number
   bool succeeds = true;
+
+  bool operator==(const Reply&) const = default;
 };
 
 // The first send gets the first reply, and so on; the last one stays.

@@ -62,13 +62,14 @@ HostSettings ReadHost(const json::Field& root) {
   return host;
 }
 
+constexpr std::array<std::pair<std::string_view, SpKind>, 4> kKinds{{
+    {"orlo", SpKind::Orlo},
+    {"tavit", SpKind::Tavit},
+    {"both", SpKind::Both},
+    {"none", SpKind::None},
+}};
+
 SpKind ReadKind(const json::Field& field) {
-  constexpr std::array<std::pair<std::string_view, SpKind>, 4> kKinds{{
-      {"orlo", SpKind::Orlo},
-      {"tavit", SpKind::Tavit},
-      {"both", SpKind::Both},
-      {"none", SpKind::None},
-  }};
   if (field.IsText()) {
     for (const auto& [name, kind] : kKinds) {
       if (field.Text() == name) {
@@ -170,6 +171,8 @@ SpDescription ReadSp(const json::Field& field) {
 }
 
 }  // namespace
+
+std::string_view KindName(SpKind kind) { return kKinds.at(static_cast<std::size_t>(kind)).first; }
 
 ServerDescription ParseServerDescription(std::string_view text, const std::string& source) {
   const std::string name = text::EscapeForPeople(source);

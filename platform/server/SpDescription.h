@@ -6,11 +6,14 @@
 
 #include <cstddef>
 #include <map>
+#include <string_view>
 #include <vector>
 
 namespace strake::platform {
 
 enum class SpKind { Orlo, Tavit, Both, None };
+// As a description names it: "orlo".
+std::string_view KindName(SpKind kind);
 
 // The most components that the three 4096-byte list buffers can name.
 inline constexpr std::size_t kMostComponents = 800;

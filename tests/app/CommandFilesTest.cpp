@@ -104,9 +104,9 @@ TEST_F(CommandFilesTest, RefusesWrongUsageAndTouchesNothing) {
   ExpectEnd(Collect({"--class", "two\nlines"}), 2,
             "strake: --class: there is no class 'two\\nlines'");
   ExpectEnd(Collect({"--format", "xml"}), 2, "strake: --format: there is no format 'xml'");
-  ExpectEnd(
-      Strake({}), 2,
-      "strake: a subcommand was expected: collect, check, diff, schema, classes, help or version");
+  ExpectEnd(Strake({}), 2,
+            "strake: a subcommand was expected: collect, check, diff, schema, replay, classes, "
+            "help or version");
 }
 
 TEST_F(CommandFilesTest, FailsOverAModuleThatCannotBeLoadedAndTouchesNothing) {

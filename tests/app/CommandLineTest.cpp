@@ -202,7 +202,8 @@ TEST(CommandLine, RefusesWhatItDoesNotKnow) {
     std::string expected;
   };
   const std::vector<Case> cases = {
-      {{}, "a subcommand was expected: collect, check, diff, schema, classes, help or version"},
+      {{},
+       "a subcommand was expected: collect, check, diff, schema, replay, classes, help or version"},
       {{"gather"}, "there is no subcommand 'gather'"},
       {{""}, "there is no subcommand ''"},
       {{"colect", "--server", "s"}, "there is no subcommand 'colect', did you mean 'collect'?"},
@@ -391,7 +392,7 @@ TEST(CommandLine, TakesHelpAndVersionAsWords) {
   EXPECT_EQ(text({"help"}), text({"--help"}));
   EXPECT_EQ(text({"version"}), text({"--version"}));
   for (const char* const subject :
-       {"collect", "check", "diff", "schema", "classes", "help", "version"}) {
+       {"collect", "check", "diff", "schema", "replay", "classes", "help", "version"}) {
     EXPECT_EQ(text({"help", subject}), text({subject, "--help"}));
     EXPECT_NE(text({"help", subject}), text({"help"}));
     EXPECT_NE(text({"help", subject}).find(std::string("Usage: strake ") + subject),

@@ -9,6 +9,7 @@
 #include "platform/session/HostSession.h"
 #include "plugin/config/SharedIdentifiers.h"
 #include "plugin/frame/ModuleEntry.h"
+#include "tests/support/MaskAddresses.h"
 #include "tests/support/Places.h"
 #include "tests/support/Scenario.h"
 
@@ -67,17 +68,6 @@ const GoldenCase kCases[] = {
 };
 
 constexpr std::string_view kLogLine = R"({"event":"log")";
-
-std::string MaskAddresses(const std::string& text) {
-  static constexpr std::string_view kBefore = " Status: 0x";
-  std::string masked;
-  std::size_t from = 0;
-  for (auto at = text.find(kBefore); at != std::string::npos; at = text.find(kBefore, from)) {
-    masked += text.substr(from, at - from) + " Status: ADDR";
-    from = text.find('.', at);
-  }
-  return masked + text.substr(from);
-}
 
 std::string TraceOf(const GoldenCase& golden) {
   Identifiers() = SharedIdentifiers{};

@@ -16,9 +16,7 @@ TEST(DotNotation, IsReadWhenItIsWrittenExactlySo) {
   for (const char* text : {"0", "255", "4.4.1", "4.9.3.1.4.255", "0.0.0", "1.2.3.4.5.6.7.8"}) {
     const auto identifier = ParseDotNotation(text);
     ASSERT_TRUE(identifier) << text;
-    EXPECT_EQ(DotNotation(
-                  {reinterpret_cast<const unsigned char*>(identifier->data()), identifier->size()}),
-              text);
+    EXPECT_EQ(DotNotationOf(*identifier), text);
   }
 }
 

@@ -1,0 +1,79 @@
+#include "app/Replay.h"
+
+#include "app/Errors.h"
+#include "app/Messages.h"
+#include "app/Server.h"
+#include "app/SharedFiles.h"
+#include "app/Trail.h"
+#include "os/InputFile.h"
+#include "os/OutputFile.h"
+#include "platform/server/ServerDescription.h"
+#include "replay/DescriptionWriter.h"
+#include "replay/ReplayBuilder.h"
+#include "replay/Scrub.h"
+#include "replay/TraceReader.h"
+#include "text/TextEscape.h"
+
+#include <memory>
+#include <random>
+#include <string>
+
+namespace strake::app {
+namespace {
+
+bool IsStandardInput(const ReplayOptions& options) { return options.trace == kStandardInput; }
+
+std::string NameOf(const ReplayOptions& options) {
+  return IsStandardInput(options) ? "standard input" : options.trace.string();
+}
+
+replay::Replay Read(const ReplayOptions& options) {
+  const bool isStandardInput = IsStandardInput(options);
+  const std::string name = NameOf(options);
+  const std::string text = isStandardInput ? os::ReadInput(stdin, name, replay::kMostTraceBytes)
+                                           : os::ReadInput(options.trace, replay::kMostTraceBytes);
+  replay::ReplayBuilder builder;
+  replay::ReadTrace(text, name,
+                    [&builder](replay::TraceEvent event) { builder.Take(std::move(event)); });
+  return builder.Complete(name, isStandardInput ? name : options.trace.filename().string());
+}
+
+// Nobody can tell the texts from their replacements without it.
+std::uint64_t MakeKey() {
+  std::random_device device;
+  return std::uint64_t{device()} << 32U | device();
+}
+
+}  // namespace
+
+int Replay(const ReplayOptions& options) {
+  RefuseSharedFiles(options);
+  replay::Replay replay = Read(options);
+  if (options.scrub) {
+    replay::Scrub(replay, MakeKey());
+  }
+  const std::string text = replay::WriteDescription(replay);
+  // What is written can be read: a trace may hold more than a description.
+  static_cast<void>(
+      platform::ParseServerDescription(text, "the description of " + NameOf(options)));
+  const bool isFile = !GoesToStandardOutput(options);
+  const std::unique_ptr<os::OutputFile> file =
+      OpenOutput(isFile ? options.output : std::nullopt,
+                 options.scrub ? os::Privacy::Usual : os::Privacy::Owner);
+  for (const std::string& warning : replay.warnings) {
+    TellWarning(warning);
+  }
+  if (file) {
+    file->Write(text);
+    file->Complete();
+    os::WriteStandardOutput(
+        text::EscapeForPeople(options.output->string() + " is written; replay it with: " +
+                              replay::CommandOf(replay, options.output->string())) +
+        "\n");
+  } else {
+    os::WriteStandardOutput(text);
+  }
+  return kExitDone;
+}
+
+}  // namespace strake::app
