@@ -123,6 +123,9 @@ int Collect(const CollectOptions& options) {
       std::move(collected), options.showSecrets ? report::Secrets::Shown : report::Secrets::Masked,
       limits);
   WriteReport(report, options, output.get());
+  if (options.selection.sensor && report.Sensors().empty() && !options.quiet) {
+    TellWarning("--sensor: no sensor is called '" + *options.selection.sensor + "'");
+  }
   return StatusOf(report, options);
 }
 

@@ -172,7 +172,40 @@ class Deduction {
         AddTavitList(family, static_cast<TavitList>(list));
       }
     }
+    AddTavitCommands(tavit);
     AddSensors(kTavitNumber, SensorRepliesOf(tavit));
+  }
+
+  // Lists that no reply came for. It has no presence test: one that answers
+  // nothing at all is silent.
+  void AddTavitCommands(const TavitFacts& tavit) {
+    NameList names;
+    std::size_t asked = 0;
+    for (std::size_t family = 0; family < tavit.families.size(); ++family) {
+      for (std::size_t list = 0; list < kTavitLists.size(); ++list) {
+        // A list that the family does not have does not come.
+        if (ExpectedLengths(std::span(kTavitFamilies)[family], static_cast<TavitList>(list))
+                .empty()) {
+          continue;
+        }
+        const Tally& replies = tavit.families.at(family).at(list).replies;
+        asked += replies.asked;
+        if (replies.HasFailures()) {
+          names.Add(kTavitLists.at(list).request->name + InSomeTimes(replies), replies.failed);
+        }
+      }
+    }
+    if (names.Count() == 0) {
+      return;
+    }
+    if (names.Count() == asked) {
+      Add(Severity::Critical, FindingCode::SpSilent, kTavitNumber,
+          SpText(kTavitNumber) + " did not answer: none of " + std::to_string(asked) +
+              " commands had a reply: " + names.Text());
+    } else {
+      AddOfMany(FindingCode::CommandUnanswered, kTavitNumber, names, asked, "commands to ",
+                "had no reply");
+    }
   }
 
   void AddTavitList(std::size_t family, TavitList list) {

@@ -289,6 +289,13 @@ TEST_F(CommandTest, SelectsAndJudgesBeforeItReports) {
                      ""}));
 }
 
+TEST_F(CommandTest, WarnsWhenNoSensorIsCalledSo) {
+  EXPECT_EQ(Strake({"collect", "--sensor", "nosuch*"}).err,
+            "strake: warning: --sensor: no sensor is called 'nosuch*'\n");
+  EXPECT_EQ(Strake({"collect", "--sensor", "nosuch*", "--quiet"}).err, "");
+  EXPECT_EQ(Strake({"collect", "--sensor", "fan 16*", "--node", "1"}).err, "");
+}
+
 TEST_F(CommandTest, TellsFindingsOnStandardErrorWhereTheFormatHasNoPlaceForThem) {
   const std::vector<std::string> words = {"collect", "--sensor", "Fan 16*",
                                           "--node",  "1",        "--format"};

@@ -94,13 +94,15 @@ std::vector<WatchCase> ListCases() {
        Pilkar(kFans, Failure(List(16), 32)),
        {kSensors},
        kOneAnswered,
-       {"warning sensor-unanswered 1: 5 of 16 sensors on SP 1 did not answer: " + kFiveFans},
+       {"warning command-unanswered 1: 1 of 3 commands to SP 1 had no reply: ALERT_FAN_INFORMATION",
+        "warning sensor-unanswered 1: 5 of 16 sensors on SP 1 did not answer: " + kFiveFans},
        kFiveFansSilent},
       {"a fan list of length 0",
        Pilkar(kFans, Reported(List(16), 0)),
        {kSensors},
        kOneAnswered,
-       {"warning sensor-unanswered 1: 5 of 16 sensors on SP 1 did not answer: " + kFiveFans},
+       {"warning command-unanswered 1: 1 of 3 commands to SP 1 had no reply: ALERT_FAN_INFORMATION",
+        "warning sensor-unanswered 1: 5 of 16 sensors on SP 1 did not answer: " + kFiveFans},
        kFiveFansSilent},
       {"a fan list of a negative length",
        Pilkar(kFans, Reported(List(16), -1)),
@@ -148,6 +150,9 @@ std::vector<WatchCase> ListCases() {
        kOneAnswered,
        {"warning list-length 1: the voltage list of SP 1 (MSG_VOLTAGE_LIST) stated length 17 in 1 "
         "of 3 queries, expected 16 for Nembro",
+        "warning command-unanswered 1: 1 of 9 commands to SP 1 had no reply: MSG_VOLTAGE_LIST (1 "
+        "of 3 "
+        "times)",
         "warning sensor-unanswered 1: 6 of 22 sensors on SP 1 did not answer: 3.3 Voltage (2 of 3 "
         "times), 2.5 Voltage (2 of 3 times), CPU Core Voltage (2 of 3 times), 5 Voltage (2 of 3 "
         "times), 12 Voltage (2 of 3 times) and 1 more"}},
@@ -155,7 +160,9 @@ std::vector<WatchCase> ListCases() {
        Scenario::Tavit("5124").server,
        {kSensors},
        kOneSilent,
-       {"warning sensor-unanswered 1: 18 of 18 sensors on SP 1 did not answer: 12 Voltage, -12 "
+       {"critical sp-silent 1: SP 1 did not answer: none of 3 commands had a reply: "
+        "MSG_VOLTAGE_LIST, ALERT_FAN_INFORMATION, MSG_TEMPERATURE_LIST",
+        "warning sensor-unanswered 1: 18 of 18 sensors on SP 1 did not answer: 12 Voltage, -12 "
         "Voltage, 5 Voltage, 3.3 Voltage, 2.5 Voltage and 13 more"},
        {"1 voltage 12 Voltage", "1 voltage -12 Voltage", "1 voltage 5 Voltage",
         "1 voltage 3.3 Voltage", "1 voltage 2.5 Voltage", "1 voltage CPU 1 Core Voltage",
@@ -168,7 +175,8 @@ std::vector<WatchCase> ListCases() {
              [](Scenario& scenario) { scenario.Kestle(kVoltages, Failure()); }),
        {kSensors},
        kOneAnswered,
-       {"warning sensor-unanswered 1: 7 of 19 sensors on SP 1 did not answer: 12 Voltage, 5 "
+       {"warning command-unanswered 1: 1 of 3 commands to SP 1 had no reply: MSG_VOLTAGE_LIST",
+        "warning sensor-unanswered 1: 7 of 19 sensors on SP 1 did not answer: 12 Voltage, 5 "
         "Voltage, 3.3 Voltage, 2.5 Voltage, 1.5 Voltage and 2 more"},
        {"1 voltage 12 Voltage", "1 voltage 5 Voltage", "1 voltage 3.3 Voltage",
         "1 voltage 2.5 Voltage", "1 voltage 1.5 Voltage", "1 voltage 1.25 Voltage",
