@@ -5,19 +5,6 @@
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <stdexcept>
-#include <tuple>
-
-namespace strake::platform {
-
-static bool operator==(const Reply& a, const Reply& b) {
-  return std::tie(a.bytes, a.length, a.succeeds) == std::tie(b.bytes, b.length, b.succeeds);
-}
-
-static bool operator==(const HostAnswer& a, const HostAnswer& b) {
-  return a.text == b.text && a.throws == b.throws;
-}
-
-}  // namespace strake::platform
 
 namespace strake::tests {
 namespace {
