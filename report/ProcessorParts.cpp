@@ -72,9 +72,9 @@ std::span<const cim::StoredInstance* const> ProcessorPart::OtherInstances() cons
 }
 
 std::span<const Sensor* const> ProcessorPart::SensorsOf(SensorKind kind) const {
-  const auto found = std::ranges::equal_range(sensors, kind, {},
-                                              [](const Sensor* sensor) { return sensor->kind; });
-  return {found.begin(), found.end()};
+  const auto kindOf = [](const Sensor* sensor) { return sensor->kind; };
+  return {std::ranges::lower_bound(sensors, kind, {}, kindOf),
+          std::ranges::upper_bound(sensors, kind, {}, kindOf)};
 }
 
 std::vector<ProcessorPart> PartsOf(const Report& report, SensorOrder order) {
@@ -105,7 +105,7 @@ std::vector<ProcessorPart> PartsOf(const Report& report, SensorOrder order) {
     parts.push_back(std::move(part));
   }
   if (!parts.empty() && !parts.front().number) {
-    std::ranges::rotate(parts, parts.begin() + 1);
+    std::rotate(parts.begin(), parts.begin() + 1, parts.end());
   }
   return parts;
 }
