@@ -263,12 +263,17 @@ void CheckTable(const report::Report& report, const ReportCase& reportCase,
                               ? ", 1 service processor\n"
                               : ", " + std::to_string(processors.size()) + " service processors\n"),
           "a table counts the service processors");
-  } else {
-    report::Layout asCollected = layout;
-    asCollected.colour = report::Colour::Never;
-    asCollected.order = report::SensorOrder::AsCollected;
-    Check(LinesOf(table) == LinesOf(Written(report::WriteTable, report, asCollected)),
-          "an order changes no line");
+  }
+}
+
+void CheckOrders(const report::Report& report) {
+  using report::SensorOrder;
+  const auto lines = [&report](SensorOrder order) {
+    return LinesOf(Written(report::WriteTable, report, {.order = order, .header = false}));
+  };
+  const std::multiset<std::string> asCollected = lines(SensorOrder::AsCollected);
+  for (const auto order : {SensorOrder::ByName, SensorOrder::ByReading, SensorOrder::ByState}) {
+    Check(lines(order) == asCollected, "an order changes no line");
   }
 }
 
@@ -287,6 +292,7 @@ void CheckFormats(const ReportCase& reportCase, const ReportSettings& settings) 
   CheckTables(reportCase, settings);
   CheckPage(report, settings);
   CheckTable(report, reportCase, settings);
+  CheckOrders(report);
 }
 
 }  // namespace
