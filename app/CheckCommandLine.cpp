@@ -1,5 +1,4 @@
 // The options of `strake check`.
-#include "app/CommandLineParts.h"
 #include "app/Subcommands.h"
 
 namespace strake::app {
@@ -18,15 +17,14 @@ failed.)";
 
 }  // namespace
 
-CLI::App& AddCheck(CLI::App& app, CheckOptions& options) {
-  CLI::App& command = *app.add_subcommand("check", "Check server descriptions");
-  command.footer(kCheckExamples);
-  AddValue(command, "file", "FILE", "Server descriptions (*.server.json)",
-           [&options](const std::string& value) { options.files.emplace_back(value); })
-      ->required()
-      ->expected(1, CLI::detail::expected_max_vector_size)
-      ->allow_extra_args()
-      ->check(RefuseEmptyName);
+Subcommand AddCheck(CLI::App& app, CheckOptions& options) {
+  const Subcommand command(app, "check", "Check server descriptions", kCheckExamples);
+  command
+      .AddValue("file", "FILE", "Server descriptions (*.server.json)",
+                [&options](const std::string& value) { options.files.emplace_back(value); })
+      .Required()
+      .Several()
+      .Check(RefuseEmptyName);
   return command;
 }
 

@@ -1,7 +1,6 @@
 // The options of `strake collect`.
 #include "app/BuiltInServers.h"
 #include "app/ClassNames.h"
-#include "app/CommandLineParts.h"
 #include "app/Errors.h"
 #include "app/PropertyFilter.h"
 #include "app/QueryPlan.h"
@@ -110,81 +109,82 @@ std::string RefuseOrder(const std::string& name) {
              : "'" + name + "' is none, expected " + text::OrList(kOrders, &NamedOrder::name);
 }
 
-void AddInput(CLI::App& app, CollectOptions& options) {
-  CLI::Option* const server =
-      AddFile(app, "--server", "The server description (*.server.json)", options.server);
-  AddValue(app, "--demo", "NAME",
-           "A built-in demonstration server: " + BuiltInServerNames() + "; default: demo-orlo",
-           [&options](const std::string& value) { options.demo = value; })
-      ->check(RefuseUnknownDemo)
-      ->excludes(server);
-  AddFile(app, "--plugin", "The plug-in module; default: strake.so near the command",
-          options.plugin);
+void AddInput(const Subcommand& app, CollectOptions& options) {
+  const Option server =
+      app.AddFile("--server", "The server description (*.server.json)", options.server);
+  app.AddValue("--demo", "NAME",
+               "A built-in demonstration server: " + BuiltInServerNames() + "; default: demo-orlo",
+               [&options](const std::string& value) { options.demo = value; })
+      .Check(RefuseUnknownDemo)
+      .Excludes(server);
+  app.AddFile("--plugin", "The plug-in module; default: strake.so near the command",
+              options.plugin);
 }
 
-void AddQueries(CLI::App& app, CollectOptions& options) {
-  CLI::Option* const classes =
-      AddValue(app, "--class", "NAME",
-               "A class that is wanted (repeatable), by its name or as " + ShortClassNames() +
-                   "; default: all eight",
+void AddQueries(const Subcommand& app, CollectOptions& options) {
+  const Option classes =
+      app.AddValue("--class", "NAME",
+                   "A class that is wanted (repeatable), by its name or as " + ShortClassNames() +
+                       "; default: all eight",
+                   [&options](const std::string& value) {
+                     options.classes.emplace_back(cim::FindClassByAnyName(value)->name);
+                   })
+          .Check(RefuseUnknownClass)
+          .Repeatable();
+  app.AddValue("--query", "LIST",
+               "Instead: one query with exactly these classes, separated by commas (repeatable); "
+               "\"\" asks for none",
+               [&options](const std::string& value) { options.queries.push_back(value); })
+      .Repeatable()
+      .Excludes(classes);
+}
+
+void AddSelection(const Subcommand& app, CollectOptions& options) {
+  app.AddValue("--node", "N", "Report this service processor alone, from 1",
+               [&options](const std::string& value) { options.selection.node = ParseNode(value); })
+      .Check(RefuseNode);
+  app.AddValue("--sensor", "GLOB",
+               "Of the sensors, those whose names fit, with * and ?; asks for sensors alone unless "
+               "--class or --query says otherwise",
+               [&options](const std::string& value) { options.selection.sensor = value; });
+  app.AddValue("--filter", "CLASS.PROPERTY=GLOB",
+               "Of the class, the instances whose property fits (repeatable)",
                [&options](const std::string& value) {
-                 options.classes.emplace_back(cim::FindClassByAnyName(value)->name);
+                 options.selection.filters.push_back(ParsePropertyFilter(value));
                })
-          ->check(RefuseUnknownClass)
-          ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
-  AddValue(app, "--query", "LIST",
-           "Instead: one query with exactly these classes, separated by commas (repeatable); "
-           "\"\" asks for none",
-           [&options](const std::string& value) { options.queries.push_back(value); })
-      ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll)
-      ->excludes(classes);
+      .Check(RefuseFilter)
+      .Repeatable();
+  app.AddFile("--limits", "Between which readings sensors are fine (TOML)", options.limits);
+  app.AddValue("--fail-on", "SEVERITY",
+               "Exit with 3 when there is a finding of this severity or above: warning or critical",
+               [&options](const std::string& value) { options.failOn = ParseFailOn(value); })
+      .Check(RefuseFailOn);
 }
 
-void AddSelection(CLI::App& app, CollectOptions& options) {
-  AddValue(app, "--node", "N", "Report this service processor alone, from 1",
-           [&options](const std::string& value) { options.selection.node = ParseNode(value); })
-      ->check(RefuseNode);
-  AddValue(app, "--sensor", "GLOB",
-           "Of the sensors, those whose names fit, with * and ?; asks for sensors alone unless "
-           "--class or --query says otherwise",
-           [&options](const std::string& value) { options.selection.sensor = value; });
-  AddValue(app, "--filter", "CLASS.PROPERTY=GLOB",
-           "Of the class, the instances whose property fits (repeatable)",
-           [&options](const std::string& value) {
-             options.selection.filters.push_back(ParsePropertyFilter(value));
-           })
-      ->check(RefuseFilter)
-      ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
-  AddFile(app, "--limits", "Between which readings sensors are fine (TOML)", options.limits);
-  AddValue(app, "--fail-on", "SEVERITY",
-           "Exit with 3 when there is a finding of this severity or above: warning or critical",
-           [&options](const std::string& value) { options.failOn = ParseFailOn(value); })
-      ->check(RefuseFailOn);
-}
-
-void AddOutput(CLI::App& app, CollectOptions& options) {
-  AddValue(app, "--format", "FORMAT",
-           "The report's format: " + report::FormatNames() +
-               "; default: what the ending of --output says, else " +
-               std::string(report::Formats().front().name),
-           [&options](const std::string& value) { options.format = report::FindFormat(value); })
-      ->check(RefuseUnknownFormat);
-  AddFile(app, "--output", "Where the report goes; default: standard output", options.output);
-  AddValue(app, "--sort", "KEY",
-           "How the table's sensors follow each other: " + text::OrList(kOrders, &NamedOrder::name),
-           [&options](const std::string& value) { options.order = FindOrder(value)->order; })
-      ->check(RefuseOrder);
-  app.add_flag_callback(
-      "--no-header", [&options] { options.header = false; }, "The table's rows alone");
-  AddFile(app, "--trace", "Where to record what crosses the plug-in's boundary", options.trace);
-  AddFile(app, "--log", "Where log lines go; default: standard error", options.log);
-  AddValue(app, "--log-level", "N",
-           "Log lines up to this level, 0 to 4; default: 1, or 4 with --log",
-           [&options](const std::string& value) { options.logLevel = value[0] - '0'; })
-      ->check(RefuseLogLevel);
-  app.add_flag("--show-secrets", options.showSecrets,
-               "Report passwords, PINs and community names in clear");
-  app.add_flag("--quiet", options.quiet, "No progress on a terminal, no warnings");
+void AddOutput(const Subcommand& app, CollectOptions& options) {
+  app.AddValue("--format", "FORMAT",
+               "The report's format: " + report::FormatNames() +
+                   "; default: what the ending of --output says, else " +
+                   std::string(report::Formats().front().name),
+               [&options](const std::string& value) { options.format = report::FindFormat(value); })
+      .Check(RefuseUnknownFormat);
+  app.AddFile("--output", "Where the report goes; default: standard output", options.output);
+  app.AddValue(
+         "--sort", "KEY",
+         "How the table's sensors follow each other: " + text::OrList(kOrders, &NamedOrder::name),
+         [&options](const std::string& value) { options.order = FindOrder(value)->order; })
+      .Check(RefuseOrder);
+  app.AddFlag("--no-header", "The table's rows alone", [&options] { options.header = false; });
+  app.AddFile("--trace", "Where to record what crosses the plug-in's boundary", options.trace);
+  app.AddFile("--log", "Where log lines go; default: standard error", options.log);
+  app.AddValue("--log-level", "N",
+               "Log lines up to this level, 0 to 4; default: 1, or 4 with --log",
+               [&options](const std::string& value) { options.logLevel = value[0] - '0'; })
+      .Check(RefuseLogLevel);
+  app.AddFlag("--show-secrets", "Report passwords, PINs and community names in clear",
+              [&options] { options.showSecrets = true; });
+  app.AddFlag("--quiet", "No progress on a terminal, no warnings",
+              [&options] { options.quiet = true; });
 }
 
 [[noreturn]] void Refuse(const std::string& text) {
@@ -192,13 +192,13 @@ void AddOutput(CLI::App& app, CollectOptions& options) {
 }
 
 // The ending of the output picks the format or agrees with it.
-void ChooseFormat(const CLI::App& command, CollectOptions& options) {
+void ChooseFormat(const Subcommand& command, CollectOptions& options) {
   const report::Format* const ofFile =
       options.output ? report::FindFormatOfFile(options.output->string()) : nullptr;
   if (ofFile == nullptr) {
     return;
   }
-  if (command.count("--format") == 0) {
+  if (!command.HasOption("--format")) {
     options.format = ofFile;
   } else if (options.format != ofFile) {
     Refuse("--format says " + std::string(options.format->name) + ", but the ending of --output " +
@@ -206,9 +206,9 @@ void ChooseFormat(const CLI::App& command, CollectOptions& options) {
   }
 }
 
-void RefuseLayoutOfOtherFormats(const CLI::App& command, const CollectOptions& options) {
+void RefuseLayoutOfOtherFormats(const Subcommand& command, const CollectOptions& options) {
   for (const std::string option : {"--sort", "--no-header"}) {
-    if (options.format->laid == report::Laid::AsItIs && command.count(option) != 0) {
+    if (options.format->laid == report::Laid::AsItIs && command.HasOption(option)) {
       Refuse(option + ": the format " + std::string(options.format->name) +
              " has no layout to choose, expected --format table");
     }
@@ -245,9 +245,8 @@ void RefuseFiltersOfSecrets(const CollectOptions& options) {
 
 }  // namespace
 
-CLI::App& AddCollect(CLI::App& app, CollectOptions& options) {
-  CLI::App& command = *app.add_subcommand("collect", "Query the plug-in, print a report");
-  command.footer(kCollectExamples);
+Subcommand AddCollect(CLI::App& app, CollectOptions& options) {
+  const Subcommand command(app, "collect", "Query the plug-in, print a report", kCollectExamples);
   AddInput(command, options);
   AddQueries(command, options);
   AddSelection(command, options);
@@ -255,8 +254,8 @@ CLI::App& AddCollect(CLI::App& app, CollectOptions& options) {
   return command;
 }
 
-void CompleteCollect(const CLI::App& command, CollectOptions& options) {
-  if (options.log && command.count("--log-level") == 0) {
+void CompleteCollect(const Subcommand& command, CollectOptions& options) {
+  if (options.log && !command.HasOption("--log-level")) {
     options.logLevel = kHighestLogLevel;
   }
   if (options.server == kStandardInput && options.limits == kStandardInput) {

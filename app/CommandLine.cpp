@@ -1,12 +1,12 @@
 #include "app/CommandLine.h"
 
 #include "app/ClassNames.h"
-#include "app/CommandLineParts.h"
 #include "app/Errors.h"
 #include "app/NearestName.h"
 #include "app/Subcommands.h"
 #include "text/OrList.h"
 
+#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <utility>
 
@@ -133,48 +133,47 @@ CommandLine ParseCommandLine(int argc, const char* const* argv) {
   app.require_subcommand(1);
 
   CollectOptions collect;
-  const CLI::App& collectCommand = AddCollect(app, collect);
+  const Subcommand collectCommand = AddCollect(app, collect);
   CheckOptions check;
-  const CLI::App& checkCommand = AddCheck(app, check);
+  const Subcommand checkCommand = AddCheck(app, check);
   DiffOptions diff;
-  const CLI::App& diffCommand = AddDiff(app, diff);
+  const Subcommand diffCommand = AddDiff(app, diff);
   SchemaOptions schema;
-  const CLI::App& schemaCommand = AddSchema(app, schema);
+  const Subcommand schemaCommand = AddSchema(app, schema);
   ReplayOptions replay;
-  const CLI::App& replayCommand = AddReplay(app, replay);
-  const CLI::App& classesCommand =
-      *app.add_subcommand("classes", "List the classes and their short names");
+  const Subcommand replayCommand = AddReplay(app, replay);
+  const Subcommand classesCommand(app, "classes", "List the classes and their short names");
 
   std::string subject;
-  CLI::App& helpCommand = *app.add_subcommand("help", "Say how strake or a subcommand is used");
-  AddValue(helpCommand, "subcommand", "SUBCOMMAND", "One of the others",
-           [&subject](const std::string& value) { subject = value; });
-  const CLI::App& versionCommand = *app.add_subcommand("version", "Say which version this is");
+  const Subcommand helpCommand(app, "help", "Say how strake or a subcommand is used");
+  helpCommand.AddValue("subcommand", "SUBCOMMAND", "One of the others",
+                       [&subject](const std::string& value) { subject = value; });
+  const Subcommand versionCommand(app, "version", "Say which version this is");
   app.footer(kExamples);  // a subcommand that is added later would have it too
 
   if (std::optional<TextAnswer> answer = Parse(app, Words(argc, argv))) {
     return *std::move(answer);
   }
-  if (helpCommand.parsed()) {
+  if (helpCommand.IsGiven()) {
     return Help(app, subject);
   }
-  if (versionCommand.parsed()) {
+  if (versionCommand.IsGiven()) {
     return TextAnswer{std::string(kVersion) + "\n"};
   }
-  if (classesCommand.parsed()) {
+  if (classesCommand.IsGiven()) {
     return TextAnswer{ClassList()};
   }
-  if (checkCommand.parsed()) {
+  if (checkCommand.IsGiven()) {
     return check;
   }
-  if (diffCommand.parsed()) {
+  if (diffCommand.IsGiven()) {
     CompleteDiff(diff);
     return diff;
   }
-  if (replayCommand.parsed()) {
+  if (replayCommand.IsGiven()) {
     return replay;
   }
-  if (schemaCommand.parsed()) {
+  if (schemaCommand.IsGiven()) {
     return schema;
   }
   CompleteCollect(collectCommand, collect);

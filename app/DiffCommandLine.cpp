@@ -1,9 +1,9 @@
 // The options of `strake diff`.
-#include "app/CommandLineParts.h"
 #include "app/Errors.h"
 #include "app/Server.h"
 #include "app/Subcommands.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -60,28 +60,30 @@ std::string RefusePercent(const std::string& text) {
 
 }  // namespace
 
-CLI::App& AddDiff(CLI::App& app, DiffOptions& options) {
-  CLI::App& command = *app.add_subcommand("diff", "Compare two reports");
-  command.footer(kDiffExamples);
-  AddValue(command, "before", "BEFORE", "A report as JSON; - is standard input",
-           [&options](const std::string& value) { options.before = value; })
-      ->required()
-      ->check(RefuseEmptyName);
-  AddValue(command, "after", "AFTER", "A later one",
-           [&options](const std::string& value) { options.after = value; })
-      ->required()
-      ->check(RefuseEmptyName);
-  AddValue(command, "--tolerance", "PERCENT",
-           "Readings that changed by no more are the same; default: 0",
-           [&options](const std::string& value) {
-             options.tolerancePercent = ParsePercent(value).value_or(0);
-           })
-      ->check(RefusePercent);
-  AddValue(command, "--format", "FORMAT", "table or json; default: table",
-           [&options](const std::string& value) { options.write = FindWriter(value); })
-      ->check(RefuseWriter);
-  AddFile(command, "--output", "Where the differences go; default: standard output",
-          options.output);
+Subcommand AddDiff(CLI::App& app, DiffOptions& options) {
+  const Subcommand command(app, "diff", "Compare two reports", kDiffExamples);
+  command
+      .AddValue("before", "BEFORE", "A report as JSON; - is standard input",
+                [&options](const std::string& value) { options.before = value; })
+      .Required()
+      .Check(RefuseEmptyName);
+  command
+      .AddValue("after", "AFTER", "A later one",
+                [&options](const std::string& value) { options.after = value; })
+      .Required()
+      .Check(RefuseEmptyName);
+  command
+      .AddValue("--tolerance", "PERCENT",
+                "Readings that changed by no more are the same; default: 0",
+                [&options](const std::string& value) {
+                  options.tolerancePercent = ParsePercent(value).value_or(0);
+                })
+      .Check(RefusePercent);
+  command
+      .AddValue("--format", "FORMAT", "table or json; default: table",
+                [&options](const std::string& value) { options.write = FindWriter(value); })
+      .Check(RefuseWriter);
+  command.AddFile("--output", "Where the differences go; default: standard output", options.output);
   return command;
 }
 

@@ -1,5 +1,4 @@
 // The options of `strake replay`.
-#include "app/CommandLineParts.h"
 #include "app/Subcommands.h"
 
 namespace strake::app {
@@ -21,17 +20,18 @@ A description holds what the service processors said, passwords included; withou
 
 }  // namespace
 
-CLI::App& AddReplay(CLI::App& app, ReplayOptions& options) {
-  CLI::App& command = *app.add_subcommand("replay", "Make a server description out of a trace");
-  command.footer(kReplayExamples);
-  AddValue(command, "trace", "TRACE", "What collect --trace wrote; - is standard input",
-           [&options](const std::string& value) { options.trace = value; })
-      ->required()
-      ->check(RefuseEmptyName);
-  command.add_flag("--scrub", options.scrub,
-                   "Replace names, addresses and texts, each by the same everywhere");
-  AddFile(command, "--output", "Where the description goes; default: standard output",
-          options.output);
+Subcommand AddReplay(CLI::App& app, ReplayOptions& options) {
+  const Subcommand command(app, "replay", "Make a server description out of a trace",
+                           kReplayExamples);
+  command
+      .AddValue("trace", "TRACE", "What collect --trace wrote; - is standard input",
+                [&options](const std::string& value) { options.trace = value; })
+      .Required()
+      .Check(RefuseEmptyName);
+  command.AddFlag("--scrub", "Replace names, addresses and texts, each by the same everywhere",
+                  [&options] { options.scrub = true; });
+  command.AddFile("--output", "Where the description goes; default: standard output",
+                  options.output);
   return command;
 }
 

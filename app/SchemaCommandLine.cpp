@@ -1,5 +1,4 @@
 // The options of `strake schema`.
-#include "app/CommandLineParts.h"
 #include "app/Subcommands.h"
 
 namespace strake::app {
@@ -13,23 +12,25 @@ constexpr const char* kSchemaExamples =
 
 }  // namespace
 
-CLI::App& AddSchema(CLI::App& app, SchemaOptions& options) {
-  CLI::App& command = *app.add_subcommand("schema", "Describe the classes and the JSON report");
-  command.footer(kSchemaExamples);
+Subcommand AddSchema(CLI::App& app, SchemaOptions& options) {
+  const Subcommand command(app, "schema", "Describe the classes and the JSON report",
+                           kSchemaExamples);
   std::string contents;
   for (const schema::Format& format : schema::Formats()) {
     contents.append(contents.empty() ? "" : ", ").append(format.name);
     contents.append(" (").append(format.content).append(1, ')');
   }
-  AddValue(command, "--format", "FORMAT",
-           contents + "; default: " + std::string(schema::Formats().front().name),
-           [&options](const std::string& value) { options.format = schema::FindFormat(value); })
-      ->check([](const std::string& name) {
+  command
+      .AddValue(
+          "--format", "FORMAT",
+          contents + "; default: " + std::string(schema::Formats().front().name),
+          [&options](const std::string& value) { options.format = schema::FindFormat(value); })
+      .Check([](const std::string& name) {
         return schema::FindFormat(name) != nullptr
                    ? ""
                    : "there is no format '" + name + "', expected " + schema::FormatNames();
       });
-  AddFile(command, "--output", "Where the text goes; default: standard output", options.output);
+  command.AddFile("--output", "Where the text goes; default: standard output", options.output);
   return command;
 }
 

@@ -3,19 +3,18 @@
 #pragma once
 
 #include "app/CommandLine.h"
-
-#include <CLI/CLI.hpp>
+#include "app/Subcommand.h"
 
 namespace strake::app {
 
-CLI::App& AddCollect(CLI::App& app, CollectOptions& options);
-CLI::App& AddCheck(CLI::App& app, CheckOptions& options);
-CLI::App& AddDiff(CLI::App& app, DiffOptions& options);
-CLI::App& AddSchema(CLI::App& app, SchemaOptions& options);
-CLI::App& AddReplay(CLI::App& app, ReplayOptions& options);
+Subcommand AddCollect(CLI::App& app, CollectOptions& options);
+Subcommand AddCheck(CLI::App& app, CheckOptions& options);
+Subcommand AddDiff(CLI::App& app, DiffOptions& options);
+Subcommand AddSchema(CLI::App& app, SchemaOptions& options);
+Subcommand AddReplay(CLI::App& app, ReplayOptions& options);
 
 // What follows from all options when they are taken. Both throw UsageError.
-void CompleteCollect(const CLI::App& command, CollectOptions& options);
+void CompleteCollect(const Subcommand& command, CollectOptions& options);
 void CompleteDiff(const DiffOptions& options);
 
 }  // namespace strake::app

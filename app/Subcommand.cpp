@@ -1,0 +1,69 @@
+#include "app/Subcommand.h"
+
+#include <CLI/CLI.hpp>
+
+namespace strake::app {
+
+const Option& Option::Check(const Refusal& refusal) const {
+  fOption->check(refusal);
+  return *this;
+}
+
+const Option& Option::Repeatable() const {
+  fOption->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
+  return *this;
+}
+
+const Option& Option::Several() const {
+  fOption->expected(1, CLI::detail::expected_max_vector_size)->allow_extra_args();
+  return *this;
+}
+
+const Option& Option::Required() const {
+  fOption->required();
+  return *this;
+}
+
+const Option& Option::Excludes(const Option& other) const {
+  fOption->excludes(other.fOption);
+  return *this;
+}
+
+Subcommand::Subcommand(CLI::App& app, const std::string& name, const std::string& description,
+                       const std::string& footer)
+    : fCommand(app.add_subcommand(name, description)) {
+  fCommand->footer(footer);
+}
+
+Option Subcommand::AddValue(const std::string& name, const std::string& type,
+                            const std::string& text, const Take& take) const {
+  const auto takeAll = [take](const CLI::results_t& values) {
+    for (const std::string& value : values) {
+      take(value);
+    }
+    return true;
+  };
+  return Option(
+      fCommand->add_option(name, takeAll, text)->type_name(type)->allow_extra_args(false));
+}
+
+Option Subcommand::AddFile(const std::string& name, const std::string& text,
+                           std::optional<std::filesystem::path>& file) const {
+  return AddValue(name, "FILE", text, [&file](const std::string& value) { file = value; })
+      .Check(RefuseEmptyName);
+}
+
+void Subcommand::AddFlag(const std::string& name, const std::string& text,
+                         const std::function<void()>& take) const {
+  fCommand->add_flag_callback(name, take, text);
+}
+
+bool Subcommand::IsGiven() const { return fCommand->parsed(); }
+
+bool Subcommand::HasOption(const std::string& name) const { return fCommand->count(name) != 0; }
+
+std::string RefuseEmptyName(const std::string& name) {
+  return name.empty() ? "the name of a file was expected" : "";
+}
+
+}  // namespace strake::app
