@@ -18,7 +18,7 @@ failed.)";
 }  // namespace
 
 Subcommand AddCheck(CLI::App& app, CheckOptions& options) {
-  const Subcommand command(app, "check", "Check server descriptions", kCheckExamples);
+  Subcommand command(app, "check", "Check server descriptions", kCheckExamples);
   command
       .AddValue("file", "FILE", "Server descriptions (*.server.json)",
                 [&options](const std::string& value) { options.files.emplace_back(value); })

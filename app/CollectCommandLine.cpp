@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <memory>
 
 namespace strake::app {
 namespace {
@@ -58,7 +59,7 @@ std::string RefuseLogLevel(const std::string& level) {
 
 std::optional<int> ParseNode(const std::string& text) {
   int node = 0;
-  const char* const end = text.data() + text.size();
+  const char* const end = std::to_address(text.end());
   const auto [stop, error] = std::from_chars(text.data(), end, node);
   const bool isNode =
       error == std::errc() && stop == end && node >= 1 && node <= report::kHighestProcessor;
@@ -109,7 +110,7 @@ std::string RefuseOrder(const std::string& name) {
              : "'" + name + "' is none, expected " + text::OrList(kOrders, &NamedOrder::name);
 }
 
-void AddInput(const Subcommand& app, CollectOptions& options) {
+void AddInput(Subcommand& app, CollectOptions& options) {
   const Option server =
       app.AddFile("--server", "The server description (*.server.json)", options.server);
   app.AddValue("--demo", "NAME",
@@ -121,7 +122,7 @@ void AddInput(const Subcommand& app, CollectOptions& options) {
               options.plugin);
 }
 
-void AddQueries(const Subcommand& app, CollectOptions& options) {
+void AddQueries(Subcommand& app, CollectOptions& options) {
   const Option classes =
       app.AddValue("--class", "NAME",
                    "A class that is wanted (repeatable), by its name or as " + ShortClassNames() +
@@ -139,7 +140,7 @@ void AddQueries(const Subcommand& app, CollectOptions& options) {
       .Excludes(classes);
 }
 
-void AddSelection(const Subcommand& app, CollectOptions& options) {
+void AddSelection(Subcommand& app, CollectOptions& options) {
   app.AddValue("--node", "N", "Report this service processor alone, from 1",
                [&options](const std::string& value) { options.selection.node = ParseNode(value); })
       .Check(RefuseNode);
@@ -161,7 +162,7 @@ void AddSelection(const Subcommand& app, CollectOptions& options) {
       .Check(RefuseFailOn);
 }
 
-void AddOutput(const Subcommand& app, CollectOptions& options) {
+void AddOutput(Subcommand& app, CollectOptions& options) {
   app.AddValue("--format", "FORMAT",
                "The report's format: " + report::FormatNames() +
                    "; default: what the ending of --output says, else " +
@@ -246,7 +247,7 @@ void RefuseFiltersOfSecrets(const CollectOptions& options) {
 }  // namespace
 
 Subcommand AddCollect(CLI::App& app, CollectOptions& options) {
-  const Subcommand command(app, "collect", "Query the plug-in, print a report", kCollectExamples);
+  Subcommand command(app, "collect", "Query the plug-in, print a report", kCollectExamples);
   AddInput(command, options);
   AddQueries(command, options);
   AddSelection(command, options);

@@ -145,7 +145,7 @@ CommandLine ParseCommandLine(int argc, const char* const* argv) {
   const Subcommand classesCommand(app, "classes", "List the classes and their short names");
 
   std::string subject;
-  const Subcommand helpCommand(app, "help", "Say how strake or a subcommand is used");
+  Subcommand helpCommand(app, "help", "Say how strake or a subcommand is used");
   helpCommand.AddValue("subcommand", "SUBCOMMAND", "One of the others",
                        [&subject](const std::string& value) { subject = value; });
   const Subcommand versionCommand(app, "version", "Say which version this is");

@@ -7,6 +7,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <memory>
 #include <string_view>
 
 namespace strake::app {
@@ -47,7 +48,7 @@ std::string RefuseWriter(const std::string& name) {
 
 std::optional<double> ParsePercent(const std::string& text) {
   double percent = 0;
-  const char* const end = text.data() + text.size();
+  const char* const end = std::to_address(text.end());
   const auto [stop, error] = std::from_chars(text.data(), end, percent);
   const bool isPercent =
       error == std::errc() && stop == end && std::isfinite(percent) && percent >= 0;
@@ -61,7 +62,7 @@ std::string RefusePercent(const std::string& text) {
 }  // namespace
 
 Subcommand AddDiff(CLI::App& app, DiffOptions& options) {
-  const Subcommand command(app, "diff", "Compare two reports", kDiffExamples);
+  Subcommand command(app, "diff", "Compare two reports", kDiffExamples);
   command
       .AddValue("before", "BEFORE", "A report as JSON; - is standard input",
                 [&options](const std::string& value) { options.before = value; })

@@ -21,8 +21,7 @@ A description holds what the service processors said, passwords included; withou
 }  // namespace
 
 Subcommand AddReplay(CLI::App& app, ReplayOptions& options) {
-  const Subcommand command(app, "replay", "Make a server description out of a trace",
-                           kReplayExamples);
+  Subcommand command(app, "replay", "Make a server description out of a trace", kReplayExamples);
   command
       .AddValue("trace", "TRACE", "What collect --trace wrote; - is standard input",
                 [&options](const std::string& value) { options.trace = value; })

@@ -13,8 +13,7 @@ constexpr const char* kSchemaExamples =
 }  // namespace
 
 Subcommand AddSchema(CLI::App& app, SchemaOptions& options) {
-  const Subcommand command(app, "schema", "Describe the classes and the JSON report",
-                           kSchemaExamples);
+  Subcommand command(app, "schema", "Describe the classes and the JSON report", kSchemaExamples);
   std::string contents;
   for (const schema::Format& format : schema::Formats()) {
     contents.append(contents.empty() ? "" : ", ").append(format.name);

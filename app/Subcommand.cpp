@@ -4,27 +4,27 @@
 
 namespace strake::app {
 
-const Option& Option::Check(const Refusal& refusal) const {
+Option& Option::Check(const Refusal& refusal) {
   fOption->check(refusal);
   return *this;
 }
 
-const Option& Option::Repeatable() const {
+Option& Option::Repeatable() {
   fOption->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
   return *this;
 }
 
-const Option& Option::Several() const {
+Option& Option::Several() {
   fOption->expected(1, CLI::detail::expected_max_vector_size)->allow_extra_args();
   return *this;
 }
 
-const Option& Option::Required() const {
+Option& Option::Required() {
   fOption->required();
   return *this;
 }
 
-const Option& Option::Excludes(const Option& other) const {
+Option& Option::Excludes(const Option& other) {
   fOption->excludes(other.fOption);
   return *this;
 }
@@ -36,7 +36,7 @@ Subcommand::Subcommand(CLI::App& app, const std::string& name, const std::string
 }
 
 Option Subcommand::AddValue(const std::string& name, const std::string& type,
-                            const std::string& text, const Take& take) const {
+                            const std::string& text, const Take& take) {
   const auto takeAll = [take](const CLI::results_t& values) {
     for (const std::string& value : values) {
       take(value);
@@ -48,13 +48,13 @@ Option Subcommand::AddValue(const std::string& name, const std::string& type,
 }
 
 Option Subcommand::AddFile(const std::string& name, const std::string& text,
-                           std::optional<std::filesystem::path>& file) const {
+                           std::optional<std::filesystem::path>& file) {
   return AddValue(name, "FILE", text, [&file](const std::string& value) { file = value; })
       .Check(RefuseEmptyName);
 }
 
 void Subcommand::AddFlag(const std::string& name, const std::string& text,
-                         const std::function<void()>& take) const {
+                         const std::function<void()>& take) {
   fCommand->add_flag_callback(name, take, text);
 }
 

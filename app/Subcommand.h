@@ -7,7 +7,7 @@
 #include <optional>
 #include <string>
 
-namespace CLI {
+namespace CLI {  // NOLINT(readability-identifier-naming): the library's
 class App;
 class Option;
 }  // namespace CLI
@@ -23,13 +23,13 @@ class Option {
  public:
   explicit Option(CLI::Option* option) : fOption(option) {}
 
-  const Option& Check(const Refusal& refusal) const;
+  Option& Check(const Refusal& refusal);
   // Given several times, it takes every value.
-  const Option& Repeatable() const;
+  Option& Repeatable();
   // Of one that has no name of its own: all words that follow.
-  const Option& Several() const;
-  const Option& Required() const;
-  const Option& Excludes(const Option& other) const;
+  Option& Several();
+  Option& Required();
+  Option& Excludes(const Option& other);
 
  private:
   CLI::Option* fOption;
@@ -43,12 +43,11 @@ class Subcommand {
 
   // A name without dashes is the place of a word.
   Option AddValue(const std::string& name, const std::string& type, const std::string& text,
-                  const Take& take) const;
+                  const Take& take);
   // One that names a file.
   Option AddFile(const std::string& name, const std::string& text,
-                 std::optional<std::filesystem::path>& file) const;
-  void AddFlag(const std::string& name, const std::string& text,
-               const std::function<void()>& take) const;
+                 std::optional<std::filesystem::path>& file);
+  void AddFlag(const std::string& name, const std::string& text, const std::function<void()>& take);
 
   // When the words were taken.
   [[nodiscard]] bool IsGiven() const;
