@@ -1,6 +1,7 @@
 #include "app/Check.h"
 
 #include "app/Errors.h"
+#include "app/Input.h"
 #include "app/Messages.h"
 #include "app/Server.h"
 #include "app/UnusedParts.h"
@@ -60,7 +61,7 @@ int Check(const CheckOptions& options) {
   int status = kExitDone;
   for (const std::filesystem::path& file : options.files) {
     try {
-      const std::string name = file == kStandardInput ? "standard input" : file.string();
+      const std::string name = InputName(file);
       os::WriteStandardOutput(Verdict(name, ReadServer(file)));
     } catch (const text::InputError& error) {
       TellError(error.what());

@@ -1,6 +1,6 @@
 // The options of `strake diff`.
 #include "app/Errors.h"
-#include "app/Server.h"
+#include "app/Input.h"
 #include "app/Subcommands.h"
 
 #include <algorithm>

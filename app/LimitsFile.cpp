@@ -1,8 +1,7 @@
 #include "app/LimitsFile.h"
 
+#include "app/Input.h"
 #include "app/NearestName.h"
-#include "app/Server.h"
-#include "os/InputFile.h"
 #include "report/Selection.h"
 #include "text/InputError.h"
 #include "text/OrList.h"
@@ -194,10 +193,8 @@ report::Limits ParseLimits(std::string_view text, const std::string& name) {
 }
 
 report::Limits ReadLimits(const std::filesystem::path& file) {
-  const bool isStandardInput = file == kStandardInput;
-  const std::string name = isStandardInput ? "standard input" : file.string();
-  const std::string text = isStandardInput ? os::ReadInput(stdin, name, kMostLimitsBytes)
-                                           : os::ReadInput(file, kMostLimitsBytes);
+  const std::string name = InputName(file);
+  const std::string text = ReadWholeInput(file, kMostLimitsBytes);
   if (text.size() > kMostLimitsBytes) {
     throw text::InputError(text::EscapeForPeople(name) + ": a file of limits has at most 1 MiB");
   }

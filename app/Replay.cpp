@@ -1,11 +1,10 @@
 #include "app/Replay.h"
 
 #include "app/Errors.h"
+#include "app/Input.h"
 #include "app/Messages.h"
-#include "app/Server.h"
 #include "app/SharedFiles.h"
 #include "app/Trail.h"
-#include "os/InputFile.h"
 #include "os/OutputFile.h"
 #include "platform/server/ServerDescription.h"
 #include "replay/DescriptionWriter.h"
@@ -21,21 +20,14 @@
 namespace strake::app {
 namespace {
 
-bool IsStandardInput(const ReplayOptions& options) { return options.trace == kStandardInput; }
-
-std::string NameOf(const ReplayOptions& options) {
-  return IsStandardInput(options) ? "standard input" : options.trace.string();
-}
-
 replay::Replay Read(const ReplayOptions& options) {
-  const bool isStandardInput = IsStandardInput(options);
-  const std::string name = NameOf(options);
-  const std::string text = isStandardInput ? os::ReadInput(stdin, name, replay::kMostTraceBytes)
-                                           : os::ReadInput(options.trace, replay::kMostTraceBytes);
+  const std::string name = InputName(options.trace);
+  const std::string text = ReadWholeInput(options.trace, replay::kMostTraceBytes);
   replay::ReplayBuilder builder;
   replay::ReadTrace(text, name,
                     [&builder](replay::TraceEvent event) { builder.Take(std::move(event)); });
-  return builder.Complete(name, isStandardInput ? name : options.trace.filename().string());
+  return builder.Complete(
+      name, options.trace == kStandardInput ? name : options.trace.filename().string());
 }
 
 // Nobody can tell the texts from their replacements without it.
@@ -55,7 +47,7 @@ int Replay(const ReplayOptions& options) {
   const std::string text = replay::WriteDescription(replay);
   // What is written can be read: a trace may hold more than a description.
   static_cast<void>(
-      platform::ParseServerDescription(text, "the description of " + NameOf(options)));
+      platform::ParseServerDescription(text, "the description of " + InputName(options.trace)));
   const bool isFile = !GoesToStandardOutput(options);
   const std::unique_ptr<os::OutputFile> file =
       OpenOutput(isFile ? options.output : std::nullopt,

@@ -2,6 +2,7 @@
 
 #include "app/BuiltInServers.h"
 #include "app/Errors.h"
+#include "app/Input.h"
 #include "text/InputError.h"
 
 #include <cstdio>
@@ -23,7 +24,7 @@ Server Named(const std::string& name, platform::ServerDescription description) {
 
 Server ReadServer(const std::filesystem::path& file) {
   const bool isStandardInput = file == kStandardInput;
-  const std::string name = isStandardInput ? "standard input" : file.string();
+  const std::string name = InputName(file);
   try {
     return isStandardInput ? Named(name, platform::ReadServerDescription(stdin, name))
                            : Named(file.filename().string(), platform::ReadServerDescription(file));

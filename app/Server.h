@@ -14,8 +14,6 @@ struct Server {
   platform::ServerDescription description;
 };
 
-inline constexpr const char* kStandardInput = "-";
-
 // Both throw text::InputError, and RunError when there is not enough
 // memory.
 Server ReadServer(const std::filesystem::path& file);

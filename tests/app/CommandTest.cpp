@@ -3,6 +3,7 @@
 #include "report/Timestamp.h"
 #include "schema/Formats.h"
 #include "tests/app/Command.h"
+#include "tests/support/Places.h"
 #include "tests/support/TemporaryFolder.h"
 
 #include <chrono>
@@ -234,6 +235,26 @@ TEST_F(CommandTest, CollectsBothDemonstrationServers) {
     EXPECT_EQ(outcome.out.substr(0, demo.size()), demo);
   }
   EXPECT_EQ(Strake({"collect"}).out, Strake({"collect", "--demo", "demo-orlo"}).out);
+}
+
+// A line of the README may end with ", ..." and stand for a longer one.
+TEST_F(CommandTest, PrintsWhatTheReadmeShows) {
+  const std::string readme = ReadFile(SourceFolder() + "/README.md");
+  const std::string command = "$ ./scripts/demo\n";
+  const std::size_t begin = readme.find(command) + command.size();
+  std::istringstream sample(readme.substr(begin, readme.find("```", begin) - begin));
+  const std::string out = "\n" + Strake({"collect"}).out;
+  int lines = 0;
+  for (std::string line; std::getline(sample, line); ++lines) {
+    if (line == "...") {
+      continue;
+    }
+    const std::string more = ", ...";
+    const bool isCut = line.ends_with(more);
+    const std::string shown = "\n" + (isCut ? line.substr(0, line.size() - more.size()) : line);
+    EXPECT_NE(out.find(isCut ? shown + ", " : shown + "\n"), std::string::npos) << line;
+  }
+  EXPECT_GT(lines, 30);
 }
 
 TEST_F(CommandTest, FindsAServiceProcessorThatDoesNotAnswerNoError) {
