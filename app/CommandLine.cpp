@@ -167,7 +167,7 @@ CommandLine ParseCommandLine(int argc, const char* const* argv) {
     return check;
   }
   if (diffCommand.IsGiven()) {
-    CompleteDiff(diff);
+    CompleteDiff(diffCommand, diff);
     return diff;
   }
   if (replayCommand.IsGiven()) {

@@ -1,5 +1,4 @@
 // The options of `strake diff`.
-#include "app/Errors.h"
 #include "app/Input.h"
 #include "app/Subcommands.h"
 
@@ -88,9 +87,9 @@ Subcommand AddDiff(CLI::App& app, DiffOptions& options) {
   return command;
 }
 
-void CompleteDiff(const DiffOptions& options) {
+void CompleteDiff(const Subcommand& command, const DiffOptions& options) {
   if (options.before == kStandardInput && options.after == kStandardInput) {
-    throw UsageError("both reports are standard input (see strake diff --help)");
+    command.Refuse("both reports are standard input");
   }
 }
 

@@ -1,5 +1,7 @@
 #include "app/Subcommand.h"
 
+#include "app/Errors.h"
+
 #include <CLI/CLI.hpp>
 
 namespace strake::app {
@@ -61,6 +63,10 @@ void Subcommand::AddFlag(const std::string& name, const std::string& text,
 bool Subcommand::IsGiven() const { return fCommand->parsed(); }
 
 bool Subcommand::HasOption(const std::string& name) const { return fCommand->count(name) != 0; }
+
+void Subcommand::Refuse(const std::string& text) const {
+  throw UsageError(text + " (see strake " + fCommand->get_name() + " --help)");
+}
 
 std::string RefuseEmptyName(const std::string& name) {
   return name.empty() ? "the name of a file was expected" : "";

@@ -53,6 +53,9 @@ class Subcommand {
   [[nodiscard]] bool IsGiven() const;
   [[nodiscard]] bool HasOption(const std::string& name) const;
 
+  // Throws UsageError: this, and where to read more.
+  [[noreturn]] void Refuse(const std::string& text) const;
+
  private:
   CLI::App* fCommand;
 };

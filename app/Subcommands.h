@@ -15,6 +15,6 @@ Subcommand AddReplay(CLI::App& app, ReplayOptions& options);
 
 // What follows from all options when they are taken. Both throw UsageError.
 void CompleteCollect(const Subcommand& command, CollectOptions& options);
-void CompleteDiff(const DiffOptions& options);
+void CompleteDiff(const Subcommand& command, const DiffOptions& options);
 
 }  // namespace strake::app
