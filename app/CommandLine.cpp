@@ -3,6 +3,7 @@
 #include "app/ClassNames.h"
 #include "app/Errors.h"
 #include "app/NearestName.h"
+#include "app/QueryOptions.h"
 #include "app/Subcommands.h"
 #include "text/OrList.h"
 
@@ -18,6 +19,7 @@ constexpr const char* kExamples = R"(Examples:
   strake collect --demo demo-tavit      the other demonstration server
   strake collect --server rack7.server.json --class sensors --limits limits.toml
   strake collect --format json --output report.json --trace run.trace
+  strake watch --interval 5s            again and again, with what changed
   strake check rack7.server.json        is this server description fine?
   strake diff yesterday.json today.json what changed?
   strake replay run.trace --scrub       a server description out of a trace
@@ -134,6 +136,8 @@ CommandLine ParseCommandLine(int argc, const char* const* argv) {
 
   CollectOptions collect;
   const Subcommand collectCommand = AddCollect(app, collect);
+  WatchOptions watch;
+  const Subcommand watchCommand = AddWatch(app, watch);
   CheckOptions check;
   const Subcommand checkCommand = AddCheck(app, check);
   DiffOptions diff;
@@ -162,6 +166,10 @@ CommandLine ParseCommandLine(int argc, const char* const* argv) {
   }
   if (classesCommand.IsGiven()) {
     return TextAnswer{ClassList()};
+  }
+  if (watchCommand.IsGiven()) {
+    CompleteQueries(watchCommand, watch.collect);
+    return watch;
   }
   if (checkCommand.IsGiven()) {
     return check;

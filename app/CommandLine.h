@@ -5,6 +5,7 @@
 #include "app/DiffOptions.h"
 #include "app/ReplayOptions.h"
 #include "app/Schema.h"
+#include "app/WatchOptions.h"
 
 #include <filesystem>
 #include <string>
@@ -22,8 +23,8 @@ struct TextAnswer {
   std::string text;
 };
 
-using CommandLine = std::variant<CollectOptions, CheckOptions, DiffOptions, ReplayOptions,
-                                 SchemaOptions, TextAnswer>;
+using CommandLine = std::variant<CollectOptions, WatchOptions, CheckOptions, DiffOptions,
+                                 ReplayOptions, SchemaOptions, TextAnswer>;
 
 // Throws UsageError.
 CommandLine ParseCommandLine(int argc, const char* const* argv);

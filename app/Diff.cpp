@@ -16,10 +16,12 @@ report::ReadReport Read(const std::filesystem::path& file) {
 int Diff(const DiffOptions& options) {
   const report::ReadReport before = Read(options.before);
   const report::ReadReport after = Read(options.after);
-  const compare::DiffReport diff{{InputName(options.before), &before},
-                                 {InputName(options.after), &after},
-                                 compare::Compare(before, after, options.tolerancePercent),
-                                 STRAKE_VERSION};
+  const compare::DiffReport diff{
+      {InputName(options.before), &before},
+      {InputName(options.after), &after},
+      compare::Compare(compare::CollectionOf(before), compare::CollectionOf(after),
+                       options.tolerancePercent),
+      STRAKE_VERSION};
   WriteOutput(options.output,
               [&options, &diff](const report::Sink& sink) { options.write(diff, sink); });
   return diff.differences.empty() ? kExitDone : kExitDifferences;

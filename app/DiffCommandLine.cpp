@@ -1,12 +1,10 @@
 // The options of `strake diff`.
 #include "app/Input.h"
+#include "app/Percentage.h"
 #include "app/Subcommands.h"
 
 #include <algorithm>
 #include <array>
-#include <charconv>
-#include <cmath>
-#include <memory>
 #include <string_view>
 
 namespace strake::app {
@@ -45,19 +43,6 @@ std::string RefuseWriter(const std::string& name) {
                                      : "there is no format '" + name + "', expected table or json";
 }
 
-std::optional<double> ParsePercent(const std::string& text) {
-  double percent = 0;
-  const char* const end = std::to_address(text.end());
-  const auto [stop, error] = std::from_chars(text.data(), end, percent);
-  const bool isPercent =
-      error == std::errc() && stop == end && std::isfinite(percent) && percent >= 0;
-  return isPercent ? std::optional<double>(percent) : std::nullopt;
-}
-
-std::string RefusePercent(const std::string& text) {
-  return ParsePercent(text) ? "" : "'" + text + "' is no percentage, expected a number from 0";
-}
-
 }  // namespace
 
 Subcommand AddDiff(CLI::App& app, DiffOptions& options) {
@@ -76,9 +61,9 @@ Subcommand AddDiff(CLI::App& app, DiffOptions& options) {
       .AddValue("--tolerance", "PERCENT",
                 "Readings that changed by no more are the same; default: 0",
                 [&options](const std::string& value) {
-                  options.tolerancePercent = ParsePercent(value).value_or(0);
+                  options.tolerancePercent = ParsePercentage(value).value_or(0);
                 })
-      .Check(RefusePercent);
+      .Check(RefusePercentage);
   command
       .AddValue("--format", "FORMAT", "table or json; default: table",
                 [&options](const std::string& value) { options.write = FindWriter(value); })

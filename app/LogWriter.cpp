@@ -13,14 +13,7 @@ void LogWriter::Write(int level, const std::string& message) {
       .append("] ")
       .append(text::EscapeForPeople(message))
       .append("\n");
-  if (fFile != nullptr) {
-    fFile->Write(line);
-  } else {
-    if (fProgress != nullptr) {
-      fProgress->Erase();
-    }
-    os::WriteStandardError(line);
-  }
+  fTake(line);
 }
 
 }  // namespace strake::app

@@ -1,27 +1,28 @@
 // Writes the plug-in's log lines.
 #pragma once
 
-#include "app/Progress.h"
-#include "os/OutputFile.h"
-
+#include <functional>
 #include <string>
+#include <string_view>
+#include <utility>
 
 namespace strake::app {
 
+// Is given a line with its end.
+using TakeLine = std::function<void(std::string_view line)>;
+
 class LogWriter {
  public:
-  // No file: standard error, where the progress, if any, gives way. Both must
-  // outlive the writer.
-  LogWriter(os::OutputFile* file, int highestLevel, Progress* progress)
-      : fFile(file), fHighestLevel(highestLevel), fProgress(progress) {}
+  // What takes whole lines must outlive the writer.
+  LogWriter(TakeLine take, int highestLevel)
+      : fTake(std::move(take)), fHighestLevel(highestLevel) {}
 
   // "[LEVEL] MESSAGE" on one line; drops what lies above the highest level.
   void Write(int level, const std::string& message);
 
  private:
-  os::OutputFile* fFile;
+  TakeLine fTake;
   int fHighestLevel;
-  Progress* fProgress;
 };
 
 }  // namespace strake::app

@@ -10,17 +10,6 @@
 namespace strake::app {
 namespace {
 
-// What a terminal says of itself.
-report::Layout LayoutOfTerminal(report::Layout layout) {
-  if (os::StandardOutputShowsColour()) {
-    layout.colour = report::Colour::Terminal;
-  }
-  if (const std::optional<std::size_t> columns = os::StandardOutputColumns()) {
-    layout.columns = *columns;
-  }
-  return layout;
-}
-
 // Those that somebody has to look at.
 void TellFindings(const report::Report& report) {
   for (const report::Finding& finding : report.Findings()) {
@@ -31,6 +20,16 @@ void TellFindings(const report::Report& report) {
 }
 
 }  // namespace
+
+report::Layout LayoutOfTerminal(report::Layout layout) {
+  if (os::StandardOutputShowsColour()) {
+    layout.colour = report::Colour::Terminal;
+  }
+  if (const std::optional<os::TerminalSize> size = os::StandardOutputSize()) {
+    layout.columns = size->columns;
+  }
+  return layout;
+}
 
 void WriteReport(const report::Report& report, const CollectOptions& options,
                  os::OutputFile* file) {

@@ -6,6 +6,9 @@
 
 namespace strake::app {
 
+// As wide and colourful as the terminal on standard output says that it is.
+report::Layout LayoutOfTerminal(report::Layout layout);
+
 // Writes it to the file, or to standard output when that is null, and tells on
 // standard error what the format has no place for. Throws os::OutputError.
 void WriteReport(const report::Report& report, const CollectOptions& options, os::OutputFile* file);

@@ -30,12 +30,18 @@ void Attach(platform::HostSession& session, platform::ModuleEntry entry) {
   RunStep("attaching", [&] { session.Attach(entry); });
 }
 
-void RunQueries(platform::HostSession& session, const std::vector<ClassNames>& queries) {
+void Initialize(platform::HostSession& session) {
   RunStep("Initialize", [&session] { session.Initialize(); });
+}
+
+void RunQueries(platform::HostSession& session, const std::vector<ClassNames>& queries) {
   for (std::size_t index = 0; index < queries.size(); ++index) {
     RunStep("query " + std::to_string(index + 1),
             [&session, &query = queries[index]] { session.Query(query); });
   }
+}
+
+void Finish(platform::HostSession& session) {
   RunStep("Deinitialize", [&session] { session.Deinitialize(); });
   RunStep("detaching", [&session] { session.Detach(); });
 }

@@ -1,4 +1,5 @@
-// Runs queries in the plug-in.
+// Runs queries in the plug-in. All throw RunError that says which step ended with
+// what.
 #pragma once
 
 #include "app/QueryPlan.h"
@@ -8,9 +9,10 @@
 
 namespace strake::app {
 
-// Attaches the module, initializes the plug-in, runs the queries on it and
-// detaches it. Throws RunError that says which of these ended with what.
 void Attach(platform::HostSession& session, platform::ModuleEntry entry);
+void Initialize(platform::HostSession& session);
 void RunQueries(platform::HostSession& session, const std::vector<ClassNames>& queries);
+// Deinitializes the plug-in and detaches the module.
+void Finish(platform::HostSession& session);
 
 }  // namespace strake::app

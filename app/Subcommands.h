@@ -8,6 +8,7 @@
 namespace strake::app {
 
 Subcommand AddCollect(CLI::App& app, CollectOptions& options);
+Subcommand AddWatch(CLI::App& app, WatchOptions& options);
 Subcommand AddCheck(CLI::App& app, CheckOptions& options);
 Subcommand AddDiff(CLI::App& app, DiffOptions& options);
 Subcommand AddSchema(CLI::App& app, SchemaOptions& options);

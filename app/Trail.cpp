@@ -1,6 +1,7 @@
 #include "app/Trail.h"
 
 #include <exception>
+#include <utility>
 
 namespace strake::app {
 namespace {
@@ -16,10 +17,12 @@ std::unique_ptr<os::OutputFile> OpenOutput(const std::optional<std::filesystem::
   return name ? std::make_unique<os::OutputFile>(*name, privacy, onSignal) : nullptr;
 }
 
-Trail::Trail(const CollectOptions& options, Progress* progress)
+Trail::Trail(const CollectOptions& options, TakeLine showLine)
     : fTraceFile(OpenPart(options.trace)),
       fLogFile(OpenPart(options.log)),
-      fLog(fLogFile.get(), options.logLevel, progress) {
+      fLog(fLogFile ? [file = fLogFile.get()](std::string_view line) { file->Write(line); }
+                    : std::move(showLine),
+           options.logLevel) {
   if (fTraceFile) {
     fTraceBuffer = std::make_unique<os::OutputStreamBuffer>(*fTraceFile);
     fTraceStream = std::make_unique<std::ostream>(fTraceBuffer.get());

@@ -20,9 +20,9 @@ std::unique_ptr<os::OutputFile> OpenOutput(const std::optional<std::filesystem::
 
 class Trail {
  public:
-  // Opens the files; throws os::OutputError. A signal completes them. The
-  // progress, null when there is none, gives way to log lines.
-  Trail(const CollectOptions& options, Progress* progress);
+  // Opens the files; throws os::OutputError. A signal completes them. Without a
+  // log file the last argument takes the lines.
+  Trail(const CollectOptions& options, TakeLine showLine);
 
   // Null without a trace.
   [[nodiscard]] platform::BoundaryObserver* Observer() const { return fTrace.get(); }

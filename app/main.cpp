@@ -7,6 +7,7 @@
 #include "app/Messages.h"
 #include "app/Replay.h"
 #include "app/Schema.h"
+#include "app/Watch.h"
 #include "os/OutputFile.h"
 #include "os/Signals.h"
 #include "os/Terminal.h"
@@ -22,6 +23,7 @@ namespace {
 
 struct Runner {
   int operator()(const CollectOptions& options) const { return Collect(options); }
+  int operator()(const WatchOptions& options) const { return Watch(options); }
   int operator()(const CheckOptions& options) const { return Check(options); }
   int operator()(const DiffOptions& options) const { return Diff(options); }
   int operator()(const ReplayOptions& options) const { return Replay(options); }

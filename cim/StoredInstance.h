@@ -27,7 +27,8 @@ struct StoredInstance {
   friend bool operator==(const StoredInstance&, const StoredInstance&) = default;
 };
 
-// Null when the property was not set.
+// Both null when the property was not set.
+const StoredProperty* FindProperty(const StoredInstance& instance, std::string_view name);
 const Value* FindValue(const StoredInstance& instance, std::string_view name);
 
 // Null when the property was not set or has another type.

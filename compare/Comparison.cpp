@@ -24,7 +24,7 @@ struct Tolerance {
   std::chrono::seconds elapsed{};  // between the collections
 };
 
-// The instances of the second report that no one of the first was paired with.
+// The instances of the second collection that no one of the first was paired with.
 class Unpaired {
  public:
   explicit Unpaired(std::span<const StoredInstance> instances) {
@@ -98,9 +98,9 @@ std::vector<Change> ChangesOf(const StoredInstance& before, const StoredInstance
 
 }  // namespace
 
-std::vector<Difference> Compare(const report::ReadReport& before, const report::ReadReport& after,
+std::vector<Difference> Compare(const Collection& before, const Collection& after,
                                 double tolerancePercent) {
-  const Tolerance tolerance{tolerancePercent, after.collectedAt - before.collectedAt};
+  const Tolerance tolerance{tolerancePercent, after.at - before.at};
   std::vector<Difference> differences;
   Unpaired unpaired(after.instances);
   for (const StoredInstance& one : before.instances) {

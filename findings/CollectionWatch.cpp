@@ -65,6 +65,11 @@ void NoteQuestion(OrloFacts& sp, bool isAnswered, QuestionKind kind,
 
 }  // namespace
 
+void CollectionWatch::Restart() {
+  fFacts = {};
+  fNow = {};
+}
+
 void CollectionWatch::AddTo(report::Collected& collected) const { AddFindings(fFacts, collected); }
 
 void CollectionWatch::OnQuery(const std::vector<std::string>& /*classes*/) { fNow = {}; }

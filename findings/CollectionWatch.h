@@ -17,6 +17,8 @@ class CollectionWatch : public platform::BoundaryObserver {
  public:
   // The processors that were found, sensors without a reading, findings.
   void AddTo(report::Collected& collected) const;
+  // Forgets what it saw: the next query begins another collection.
+  void Restart();
 
   void OnQuery(const std::vector<std::string>& classes) override;
   void OnHostText(platform::BoundaryCall call, const std::string& result) override;

@@ -54,6 +54,9 @@ class OutputFile {
 // would block. A reader that went away ends the process, see EndByClosedPipe.
 void WriteStandardOutput(std::string_view bytes);
 
+// Safe in a signal handler: whoever reads it may be gone.
+void TryWriteStandardOutput(std::string_view bytes) noexcept;
+
 // When standard error takes nothing, nobody is left to tell.
 void WriteStandardError(std::string_view bytes);
 

@@ -206,6 +206,10 @@ void WriteStandardOutput(std::string_view bytes) {
   }
 }
 
+void TryWriteStandardOutput(std::string_view bytes) noexcept {
+  WriteAll(kStandardOutput, bytes.data(), bytes.size());
+}
+
 void WriteStandardError(std::string_view bytes) {
   WriteAll(kStandardError, bytes.data(), bytes.size());
 }

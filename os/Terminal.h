@@ -10,9 +10,16 @@ namespace strake::os {
 // NO_COLOR in the environment.
 bool StandardOutputShowsColour();
 
-// How many characters fit on a line of standard output; empty where that is no
-// terminal, or one that does not say.
-std::optional<std::size_t> StandardOutputColumns();
+struct TerminalSize {
+  std::size_t columns;  // characters on a line
+  std::size_t rows;     // 0: it does not say
+};
+
+// Of standard output; empty where that is no terminal, or one that does not say.
+std::optional<TerminalSize> StandardOutputSize();
+
+// A terminal on which what was written can be written over.
+bool StandardOutputCanRedraw();
 
 // A terminal on which a line can be taken away again.
 bool StandardErrorCanErase();

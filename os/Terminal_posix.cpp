@@ -25,14 +25,16 @@ bool StandardOutputShowsColour() {
   return ObeysSequences(STDOUT_FILENO) && Variable("NO_COLOR").empty();
 }
 
-std::optional<std::size_t> StandardOutputColumns() {
+std::optional<TerminalSize> StandardOutputSize() {
   winsize size{};
   if (::isatty(STDOUT_FILENO) == 0 || ::ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) != 0 ||
       size.ws_col == 0) {
     return std::nullopt;
   }
-  return size.ws_col;
+  return TerminalSize{size.ws_col, size.ws_row};
 }
+
+bool StandardOutputCanRedraw() { return ObeysSequences(STDOUT_FILENO); }
 
 bool StandardErrorCanErase() { return ObeysSequences(STDERR_FILENO); }
 

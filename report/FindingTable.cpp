@@ -31,9 +31,11 @@ void WriteFindingRows(std::span<const Finding> findings, TableText& out) {
   std::vector<Cells> rows;
   rows.reserve(findings.size());
   for (const Finding& finding : findings) {
+    Cell text{finding.text};
+    out.MarkIf(finding, text);
     rows.push_back({{std::string(SeverityName(finding.severity)), ShadeOf(finding.severity)},
                     {ProcessorLabel(finding.sp, "")},
-                    {finding.text}});
+                    text});
   }
   out.Rows(kRowIndent, rows, Columns(3));
 }

@@ -14,7 +14,7 @@ namespace {
 bool IsUnset(const Row& row) { return row.value.empty() || row.value == "0.0.0.0"; }
 
 // A key tells instances apart; titles, headings and the CIM properties have it.
-bool IsForPeople(const Row& row) { return row.property->role != cim::Role::Key; }
+bool IsForPeople(const Row& row) { return row.property->schema->role != cim::Role::Key; }
 
 void AddUnset(HtmlOut& out, const std::vector<Row>& rows) {
   bool isFirst = true;
@@ -38,7 +38,7 @@ void AddCard(HtmlOut& out, const cim::StoredInstance& instance) {
   for (const Row& row : rows) {
     if (IsForPeople(row) && !IsUnset(row)) {
       out.Add(isOpen ? ""_html : "<dl>"_html, "<div><dt>"_html, row.label, "</dt><dd>"_html);
-      AddValue(out, *row.property, row.value);
+      AddValue(out, *row.property->schema, row.value);
       out.Add("</dd></div>"_html);
       isOpen = true;
     }

@@ -1,7 +1,9 @@
 #include "report/InstanceText.h"
 
 #include "report/AddressText.h"
+#include "report/Sensor.h"
 #include "report/ValueForPeople.h"
+#include "text/TextEscape.h"
 
 #include <cstdint>
 
@@ -45,15 +47,17 @@ bool IsSaidElsewhere(const cim::StoredInstance& instance, const cim::StoredPrope
   return false;
 }
 
-std::string RowText(const cim::StoredInstance& instance, const cim::StoredProperty& property) {
-  std::string text = ValueForPeople(property.value);
+Row RowOf(const cim::StoredInstance& instance, const cim::StoredProperty& property) {
+  Row row{std::string(property.schema->label), ValueForPeople(property.value), &property};
   for (const Pair& pair : kPairs) {
     if (property.schema->name == pair.property) {
-      const cim::Value* const companion = cim::FindValue(instance, pair.companion);
-      return companion == nullptr ? text : pair.join(text, ValueForPeople(*companion));
+      row.companion = cim::FindProperty(instance, pair.companion);
+      if (row.companion != nullptr) {
+        row.value = pair.join(row.value, ValueForPeople(row.companion->value));
+      }
     }
   }
-  return text;
+  return row;
 }
 
 }  // namespace
@@ -77,12 +81,23 @@ std::string InstanceTitle(const cim::StoredInstance& instance) {
   return text + ')';
 }
 
+std::string TitleAndPlace(const cim::StoredInstance& instance) {
+  std::string title = InstanceTitle(instance);
+  if (IsSensor(instance)) {
+    title = text::EscapeForPeople(SensorOf(instance).name) + " (";
+    title.append(instance.schema->name).append(")");
+  }
+  if (const std::optional<int> node = SourceNode(instance)) {
+    title.append(" on SP ").append(std::to_string(*node));
+  }
+  return title;
+}
+
 std::vector<Row> InstanceRows(const cim::StoredInstance& instance) {
   std::vector<Row> rows;
   for (const cim::StoredProperty& property : instance.properties) {
     if (!IsSaidElsewhere(instance, property)) {
-      rows.push_back(
-          {std::string(property.schema->label), RowText(instance, property), property.schema});
+      rows.push_back(RowOf(instance, property));
     }
   }
   return rows;

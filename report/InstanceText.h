@@ -11,8 +11,11 @@ namespace strake::report {
 
 struct Row {
   std::string label;
-  std::string value;                              // safe to show
-  const cim::SchemaProperty* property = nullptr;  // never null in an instance's rows
+  std::string value;  // safe to show
+  // What the value was made of, in an instance's rows: never null, and what
+  // shares the row, if anything.
+  const cim::StoredProperty* property = nullptr;
+  const cim::StoredProperty* companion = nullptr;
 };
 
 // The number of the service processor that the instance came from.
@@ -22,6 +25,8 @@ std::optional<int> SourceNode(const cim::StoredInstance& instance);
 std::string NumberedTitle(const cim::StoredInstance& instance);
 // "Network interface 1 (VELKSG_ServProc_IPProtocolEndpoint)".
 std::string InstanceTitle(const cim::StoredInstance& instance);
+// Of a sensor its name: "Fan 1 (VELKSG_SP_NumericSensor) on SP 2".
+std::string TitleAndPlace(const cim::StoredInstance& instance);
 
 // In the order in which the properties were set; every property is there, but
 // for the node and what the title says. Values that belong together share a row.

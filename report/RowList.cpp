@@ -23,25 +23,27 @@ std::string ShortTitle(const cim::StoredInstance& instance) {
 }
 
 // Service processor, what it is of, label and value.
-std::vector<Cells> RowsOf(std::span<const cim::StoredInstance* const> instances) {
+std::vector<Cells> RowsOf(std::span<const cim::StoredInstance* const> instances,
+                          const TableText& out) {
   std::vector<Cells> rows;
   for (const cim::StoredInstance* const instance : instances) {
     const std::string sp = ProcessorLabel(SourceNode(*instance), kNoProcessor);
-    const std::string title = ShortTitle(*instance);
-    for (Row& row : InstanceRows(*instance)) {
-      rows.push_back({{sp}, {title}, {std::move(row.label)}, {std::move(row.value)}});
+    Cell title{ShortTitle(*instance)};
+    out.MarkIf(*instance, title);
+    for (const Row& row : InstanceRows(*instance)) {
+      rows.push_back({{sp}, title, {row.label}, ValueCell(row, out)});
     }
   }
   return rows;
 }
 
 // A sensor's own columns behind the first two.
-std::vector<Cells> RowsOf(std::span<const Sensor* const> sensors) {
+std::vector<Cells> RowsOf(std::span<const Sensor* const> sensors, const TableText& out) {
   std::vector<Cells> rows;
   for (const Sensor* const sensor : sensors) {
     Cells& cells = rows.emplace_back(
         Cells{{ProcessorLabel(sensor->sp, kNoProcessor)}, {std::string(KindName(sensor->kind))}});
-    std::ranges::move(SensorCells(*sensor), std::back_inserter(cells));
+    std::ranges::move(SensorCells(*sensor, out), std::back_inserter(cells));
   }
   return rows;
 }
@@ -51,8 +53,9 @@ std::vector<Cells> RowsOf(std::span<const Sensor* const> sensors) {
 void WritePart(const ProcessorPart& part, TableText& out) {
   constexpr std::size_t kCommon = 3;
   const std::array<std::vector<Cells>, 3> blocks{
-      RowsOf(part.ComputerSystems()), RowsOf(std::span<const Sensor* const>(part.sensors)),
-      RowsOf(part.OtherInstances())};
+      RowsOf(part.ComputerSystems(), out),
+      RowsOf(std::span<const Sensor* const>(part.sensors), out),
+      RowsOf(part.OtherInstances(), out)};
   Columns common(kCommon);
   for (const std::vector<Cells>& rows : blocks) {
     for (const Cells& cells : rows) {
@@ -72,10 +75,12 @@ void WritePart(const ProcessorPart& part, TableText& out) {
 void WriteFindings(std::span<const Finding> findings, TableText& out) {
   std::vector<Cells> rows;
   for (const Finding& finding : findings) {
+    Cell text{finding.text};
+    out.MarkIf(finding, text);
     rows.push_back({{ProcessorLabel(finding.sp, kNoProcessor)},
                     {"finding"},
                     {std::string(SeverityName(finding.severity)), ShadeOf(finding.severity)},
-                    {finding.text}});
+                    text});
   }
   out.Rows(0, rows, Columns(4));
 }

@@ -52,16 +52,15 @@ void WriteRowsOfTwo(std::span<const Cells> sensors, const Columns& columns, Tabl
 
 Columns SensorColumns() { return {{}, {.align = Align::Right}, {.gap = 1}, {}}; }
 
-Cells SensorCells(const Sensor& sensor) {
+Cells SensorCells(const Sensor& sensor, const TableText& out) {
   const bool isSilent = sensor.instance == nullptr;
   Cell state;
   if (sensor.state) {
     state = {std::string(StateName(*sensor.state)), ShadeOf(*sensor.state)};
   }
-  return {{text::EscapeForPeople(sensor.name)},
-          {ReadingForPeople(sensor), isSilent ? Shade::Warning : Shade::None},
-          {UnitForPeople(sensor)},
-          state};
+  Cell reading{ReadingForPeople(sensor), isSilent ? Shade::Warning : Shade::None};
+  out.MarkIf(sensor, reading);
+  return {{text::EscapeForPeople(sensor.name)}, reading, {UnitForPeople(sensor)}, state};
 }
 
 void WriteSensorTable(std::span<const Sensor* const> sensors, std::size_t terminalColumns,
@@ -70,7 +69,7 @@ void WriteSensorTable(std::span<const Sensor* const> sensors, std::size_t termin
   std::vector<Cells> rows;
   rows.reserve(sensors.size());
   for (const Sensor* const sensor : sensors) {
-    Widen(columns, rows.emplace_back(SensorCells(*sensor)));
+    Widen(columns, rows.emplace_back(SensorCells(*sensor, out)));
   }
   const Columns twice = TwiceBesideEachOther(columns);
   const bool areTwo =

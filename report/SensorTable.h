@@ -9,7 +9,7 @@ namespace strake::report {
 
 // Name, reading, unit and state.
 Columns SensorColumns();
-Cells SensorCells(const Sensor& sensor);
+Cells SensorCells(const Sensor& sensor, const TableText& out);
 
 // The sensors are sorted by their kinds, each of which has a heading. Where two
 // fit beside each other on a wide terminal, they stand in two columns that are

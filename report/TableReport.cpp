@@ -23,10 +23,12 @@ using Parts = std::vector<ProcessorPart>;
 void WriteBlocks(std::span<const cim::StoredInstance* const> instances, TableText& out) {
   for (const cim::StoredInstance* const instance : instances) {
     out.Blank();
-    out.Line(kTitleIndent, InstanceTitle(*instance), Shade::Heading);
+    Cell title{InstanceTitle(*instance), Shade::Heading};
+    out.MarkIf(*instance, title);
+    out.Line(kTitleIndent, title);
     std::vector<Cells> rows;
-    for (Row& row : InstanceRows(*instance)) {
-      rows.push_back({{std::move(row.label)}, {std::move(row.value)}});
+    for (const Row& row : InstanceRows(*instance)) {
+      rows.push_back({{row.label}, ValueCell(row, out)});
     }
     out.Rows(kRowIndent, rows, Columns(2));
   }
@@ -109,7 +111,7 @@ void WriteSummary(const Report& report, const Parts& parts, TableText& out) {
 }  // namespace
 
 void WriteTable(const Report& report, const Layout& layout, const Sink& sink) {
-  TableText out(layout.colour, sink);
+  TableText out(layout, sink);
   const Parts parts = PartsOf(report, layout.order);
   if (layout.header) {
     out.Line(0, ServerForPeople(report.Facts().server), Shade::Heading);

@@ -13,6 +13,7 @@ constexpr std::size_t kPiece = 65536;
 // In the order of Shade: none, bold, blue, yellow, red.
 constexpr std::array<std::string_view, 5> kBegins{"", "\x1b[1m", "\x1b[34m", "\x1b[33m",
                                                   "\x1b[31m"};
+constexpr std::string_view kBeginReverse = "\x1b[7m";
 constexpr std::string_view kEnd = "\x1b[0m";
 
 }  // namespace
@@ -71,8 +72,12 @@ void AppendListed(std::string& list, std::string_view part) {
 }
 
 void TableText::Line(std::size_t indent, std::string_view text, Shade shade) {
+  Line(indent, {std::string(text), shade});
+}
+
+void TableText::Line(std::size_t indent, const Cell& cell) {
   fOut.append(indent, ' ');
-  Append(text, shade);
+  Append(cell);
   EndLine();
 }
 
@@ -93,7 +98,7 @@ void TableText::Row(std::size_t indent, const Cells& cells, const Columns& colum
     }
     if (!cell.text.empty()) {
       fOut.append(blanks, ' ');
-      Append(cell.text, cell.shade);
+      Append(cell);
       blanks = column.align == Align::Left ? padding : 0;
     }
   }
@@ -109,11 +114,22 @@ void TableText::Rows(std::size_t indent, const std::vector<Cells>& rows, Columns
   }
 }
 
-void TableText::Append(std::string_view text, Shade shade) {
-  if (fColour == Colour::Never || shade == Shade::None) {
-    fOut += text;
+void TableText::Mark(Cell& cell) const {
+  if (fLayout->colour == Colour::Terminal) {
+    cell.isMarked = true;
+  } else if (!cell.text.empty()) {
+    cell.text.insert(0, "> ");
+  }
+}
+
+void TableText::Append(const Cell& cell) {
+  if (fLayout->colour == Colour::Never || (cell.shade == Shade::None && !cell.isMarked)) {
+    fOut += cell.text;
   } else {
-    fOut.append(kBegins.at(static_cast<std::size_t>(shade))).append(text).append(kEnd);
+    fOut.append(kBegins.at(static_cast<std::size_t>(cell.shade)))
+        .append(cell.isMarked ? kBeginReverse : "")
+        .append(cell.text)
+        .append(kEnd);
   }
 }
 
@@ -127,6 +143,13 @@ void TableText::EndLine() {
 void TableText::Flush() {
   (*fSink)(fOut);
   fOut.clear();
+}
+
+Cell ValueCell(const Row& row, const TableText& out) {
+  Cell cell{row.value};
+  const bool isCompanionMarked = row.companion != nullptr && out.IsMarked(*row.companion);
+  out.MarkIf(isCompanionMarked ? *row.companion : *row.property, cell);
+  return cell;
 }
 
 }  // namespace strake::report

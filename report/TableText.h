@@ -2,6 +2,7 @@
 #pragma once
 
 #include "report/Finding.h"
+#include "report/InstanceText.h"
 #include "report/Sensor.h"
 #include "report/Writer.h"
 
@@ -25,6 +26,7 @@ Shade ShadeOf(SensorState state);
 struct Cell {
   std::string text;
   Shade shade = Shade::None;
+  bool isMarked = false;  // shown in reverse
 };
 using Cells = std::vector<Cell>;
 
@@ -55,24 +57,43 @@ void AppendListed(std::string& list, std::string_view part);
 // What is written is handed over in large pieces.
 class TableText {
  public:
-  TableText(Colour colour, const Sink& sink) : fColour(colour), fSink(&sink) {}
+  // Both must outlive it.
+  TableText(const Layout& layout, const Sink& sink) : fLayout(&layout), fSink(&sink) {}
 
   void Line(std::size_t indent, std::string_view text, Shade shade = Shade::None);
+  void Line(std::size_t indent, const Cell& cell);
   // No row ends with blanks.
   void Row(std::size_t indent, const Cells& cells, const Columns& columns);
   // All of them in columns of their own.
   void Rows(std::size_t indent, const std::vector<Cells>& rows, Columns columns);
   void Blank() { EndLine(); }
+  // Points the reader to a cell before it is written, where this part of the
+  // report is marked: with colours in reverse, without them by "> " in front. An
+  // empty one stays as it is.
+  template <typename Part>
+  void MarkIf(const Part& part, Cell& cell) const {
+    if (IsMarked(part)) {
+      Mark(cell);
+    }
+  }
+  template <typename Part>
+  [[nodiscard]] bool IsMarked(const Part& part) const {
+    return fLayout->marks != nullptr && fLayout->marks->Has(part);
+  }
   // Hands over what is left.
   void Flush();
 
  private:
-  void Append(std::string_view text, Shade shade);
+  void Mark(Cell& cell) const;
+  void Append(const Cell& cell);
   void EndLine();
 
-  Colour fColour;
+  const Layout* fLayout;
   const Sink* fSink;
   std::string fOut;
 };
+
+// The value of an instance's row.
+Cell ValueCell(const Row& row, const TableText& out);
 
 }  // namespace strake::report

@@ -1,6 +1,7 @@
 // What every report's writer is given.
 #pragma once
 
+#include "report/Marks.h"
 #include "report/Report.h"
 
 #include <cstddef>
@@ -28,6 +29,8 @@ struct Layout {
   std::size_t columns = 80;  // of the terminal
   SensorOrder order = SensorOrder::AsCollected;
   bool header = true;  // without it: rows of data and nothing else
+  // What stands out in a table, by colour or by ">"; null: nothing.
+  const Marks* marks = nullptr;
 };
 
 // Takes a report's text piece by piece; what it throws ends the writing.

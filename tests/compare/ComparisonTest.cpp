@@ -14,13 +14,18 @@ report::ReadReport At(seconds time, Instances instances) {
   return {"rack7", SomeFacts().collectedAt + time, std::move(instances)};
 }
 
+std::vector<compare::Difference> CompareReports(const report::ReadReport& before,
+                                                const report::ReadReport& after, double tolerance) {
+  return compare::Compare(compare::CollectionOf(before), compare::CollectionOf(after), tolerance);
+}
+
 // The differences alone, without what the table says around them.
 std::string DiffOf(const report::ReadReport& before, const report::ReadReport& after,
                    double tolerance) {
   std::string out;
   compare::WriteDiffTable({.before = {"a.json", &before},
                            .after = {"b.json", &after},
-                           .differences = compare::Compare(before, after, tolerance),
+                           .differences = CompareReports(before, after, tolerance),
                            .version = "1.2.3"},
                           [&out](std::string_view text) { out += text; });
   const std::string head =
@@ -40,7 +45,7 @@ std::string Json(const Instances& before, const Instances& after) {
   std::string out;
   compare::WriteDiffJson({.before = {"a.json", &one},
                           .after = {"b.json", &other},
-                          .differences = compare::Compare(one, other, 0),
+                          .differences = CompareReports(one, other, 0),
                           .version = "1.2.3"},
                          [&out](std::string_view text) { out += text; });
   return out;
@@ -158,7 +163,7 @@ TEST(Comparison, TakesAClockThatWentOnForTheSame) {
   for (const auto& one : cases) {
     const report::ReadReport before = At({}, {Clock(one.before)});
     const report::ReadReport after = At(seconds(one.elapsed), {Clock(one.after)});
-    EXPECT_EQ(!compare::Compare(before, after, 0).empty(), one.isDifference)
+    EXPECT_EQ(!CompareReports(before, after, 0).empty(), one.isDifference)
         << one.before << " to " << one.after;
   }
 }

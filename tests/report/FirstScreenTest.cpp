@@ -20,7 +20,8 @@ std::string FirstScreenOf(report::Collected collected,
   const report::Report report(std::move(collected), report::Secrets::Masked, limits);
   std::string text;
   const report::Sink sink = [&text](std::string_view piece) { text += piece; };
-  report::TableText out(report::Colour::Never, sink);
+  const report::Layout layout;
+  report::TableText out(layout, sink);
   report::WriteFirstScreen(report, report::PartsOf(report, report::SensorOrder::AsCollected), out);
   out.Flush();
   return text.starts_with('\n') ? text.substr(1) : text;
