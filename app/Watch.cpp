@@ -95,12 +95,12 @@ void Run(Rounds& rounds, const WatchOptions& options, WatchView& view) {
 int Watch(const WatchOptions& options) {
   RefuseSharedFiles(options.collect);
   const Inputs inputs = ReadInputs(options.collect);
+  std::optional<WatchView> view;
+  Trail trail(options.collect, [&view](std::string_view line) { view->AddLogLine(line); });
   if (!options.collect.quiet) {
     WarnOfUnknownClasses(inputs.queries);
   }
-  std::optional<WatchView> view;
-  Trail trail(options.collect, [&view](std::string_view line) { view->AddLogLine(line); });
-  view.emplace(options);
+  view.emplace(options);  // takes the terminal
   try {
     Rounds rounds(options.collect, inputs, trail, trail.Sink());
     Run(rounds, options, *view);

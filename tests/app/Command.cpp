@@ -2,6 +2,7 @@
 
 #include "tests/support/Places.h"
 
+#include <array>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
@@ -16,6 +17,7 @@
 #include <sys/wait.h>
 #include <termios.h>
 #include <unistd.h>
+#include <utility>
 
 namespace strake::tests {
 namespace {
@@ -44,34 +46,35 @@ class Capture {
 // Both sides stay open, so that what was written can be read at the end.
 class Terminal {
  public:
-  Terminal() : fMaster(::posix_openpt(O_RDWR | O_NOCTTY)) {
+  Terminal() : fMaster(::posix_openpt(O_RDWR | O_NOCTTY | O_CLOEXEC)) {
     if (fMaster < 0 || ::grantpt(fMaster) != 0 || ::unlockpt(fMaster) != 0) {
       throw std::runtime_error("no terminal");
     }
-    fSlave = ::open(::ptsname(fMaster), O_RDWR | O_NOCTTY);
+    fSlave = ::open(::ptsname(fMaster), O_RDWR | O_NOCTTY | O_CLOEXEC);
     termios settings{};
     ::tcgetattr(fSlave, &settings);
     ::cfmakeraw(&settings);
     ::tcsetattr(fSlave, TCSANOW, &settings);
-    ::fcntl(fMaster, F_SETFL, O_NONBLOCK);
   }
   Terminal(const Terminal&) = delete;
   Terminal& operator=(const Terminal&) = delete;
   ~Terminal() {
-    ::close(fSlave);
+    if (fSlave >= 0) {
+      ::close(fSlave);
+    }
     ::close(fMaster);
   }
 
   [[nodiscard]] int Descriptor() const { return fSlave; }
-  // At most what a terminal holds, about 4 KiB.
-  [[nodiscard]] std::string Text() const {
-    std::string text(4096, '\0');
-    std::size_t length = 0;
-    for (ssize_t count = 1; count > 0 && length < text.size();) {
-      count = ::read(fMaster, text.data() + length, text.size() - length);
-      length += count > 0 ? static_cast<std::size_t>(count) : 0;
+  // All that is written until nobody has it open any more but this one.
+  [[nodiscard]] std::string Drain() {
+    ::close(std::exchange(fSlave, -1));
+    std::string text;
+    std::array<char, 4096> piece{};
+    for (ssize_t count = 1; count > 0;) {
+      count = ::read(fMaster, piece.data(), piece.size());
+      text.append(piece.data(), count > 0 ? static_cast<std::size_t>(count) : 0);
     }
-    text.resize(length);
     return text;
   }
 
@@ -223,10 +226,11 @@ Outcome Command::Run() const {
 }
 
 Outcome Command::RunOnTerminal() const {
-  const Terminal out;
+  Terminal out;
   const Capture err;
-  const int status = Wait(Start(out.Descriptor(), err.Descriptor()));
-  return {status, out.Text(), err.Text()};
+  const pid_t process = Start(out.Descriptor(), err.Descriptor());
+  std::string text = out.Drain();
+  return {Wait(process), std::move(text), err.Text()};
 }
 
 Outcome Command::RunUntil(const std::string& errors, int signal) const {
@@ -253,9 +257,11 @@ Outcome Command::RunUntil(const std::string& errors, int signal) const {
 
 Outcome Command::RunWithErrorsOnTerminal() const {
   const Capture out;
-  const Terminal err;
-  const int status = Wait(Start(out.Descriptor(), err.Descriptor()));
-  return {status, out.Text(), err.Text()};
+  Terminal err;
+  const pid_t process = Start(out.Descriptor(), err.Descriptor());
+  std::string text = err.Drain();
+  const int status = Wait(process);
+  return {status, out.Text(), std::move(text)};
 }
 
 Outcome Strake(const std::vector<std::string>& words) { return Command(words).Run(); }
