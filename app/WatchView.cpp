@@ -15,28 +15,27 @@ namespace {
 
 constexpr std::size_t kMostNames = 3;
 
-// "1 added: Fan 1 (VELKSG_SP_NumericSensor) on SP 2".
-std::string NamesText(const std::vector<std::string>& names, std::string_view what) {
-  std::string text = std::to_string(names.size()).append(" ").append(what).append(": ");
+// "1 value changed: Fan 1 on SP 2"; nothing of nothing.
+void AppendNames(std::string& list, const std::vector<std::string>& names, std::string_view one,
+                 std::string_view many) {
+  if (names.empty()) {
+    return;
+  }
+  std::string text = report::Counted(names.size(), one, many).append(": ");
   for (std::size_t index = 0; index < std::min(names.size(), kMostNames); ++index) {
     text.append(index == 0 ? "" : ", ").append(names[index]);
   }
-  return names.size() > kMostNames ? text.append(", ...") : text;
+  text.append(names.size() > kMostNames ? ", ..." : "");
+  report::AppendListed(list, text);
 }
 
 std::string ChangesText(const compare::Changes& changes) {
   std::string text;
-  if (changes.values > 0) {
-    report::AppendListed(text, report::Counted(changes.values, "value changed", "values changed"));
-  }
+  AppendNames(text, changes.changed, "value changed", "values changed");
+  AppendNames(text, changes.added, "instance added", "instances added");
+  AppendNames(text, changes.gone, "instance gone", "instances gone");
   if (changes.findings > 0) {
     report::AppendListed(text, report::Counted(changes.findings, "new finding", "new findings"));
-  }
-  if (!changes.added.empty()) {
-    report::AppendListed(text, NamesText(changes.added, "added"));
-  }
-  if (!changes.gone.empty()) {
-    report::AppendListed(text, NamesText(changes.gone, "gone"));
   }
   return text.empty() ? "nothing changed" : text;
 }

@@ -2,6 +2,7 @@
 
 #include "compare/Comparison.h"
 #include "report/InstanceText.h"
+#include "text/TextEscape.h"
 
 #include <algorithm>
 #include <deque>
@@ -53,10 +54,27 @@ const StoredInstance& InReport(const Round& round, const StoredInstance& instanc
   return round.report.Instances()[index];
 }
 
+std::string Placed(std::string name, const std::optional<int>& sp) {
+  if (sp) {
+    name.append(" on SP ").append(std::to_string(*sp));
+  }
+  return name;
+}
+
+std::string NameForPeople(const Sensor& sensor) {
+  return Placed(text::EscapeForPeople(sensor.name), sensor.sp);
+}
+
+std::string NameForPeople(const StoredInstance& instance) {
+  return report::IsSensor(instance)
+             ? NameForPeople(report::SensorOf(instance))
+             : Placed(report::NumberedTitle(instance), report::SourceNode(instance));
+}
+
 void MarkValues(const Difference& one, const Round& after, Changes& changes) {
   const StoredInstance& shown = InReport(after, *one.after);
   for (const Change& change : one.changes) {
-    ++changes.values;
+    changes.changed.push_back(std::string(change.property->label) + " of " + NameForPeople(shown));
     if (const auto* const value = cim::FindProperty(shown, change.property->name)) {
       changes.marks.Add(*value);
     }
@@ -73,11 +91,11 @@ std::set<const StoredInstance*> MarkInstances(const std::vector<Difference>& dif
   for (const Difference& one : differences) {
     if (one.after == nullptr) {
       if (!sensorsAfter.Knows(*one.before)) {
-        changes.gone.push_back(report::TitleAndPlace(*one.before));
+        changes.gone.push_back(NameForPeople(*one.before));
       }
     } else if (one.before == nullptr) {
       if (!sensorsBefore.Knows(*one.after)) {
-        changes.added.push_back(report::TitleAndPlace(*one.after));
+        changes.added.push_back(NameForPeople(*one.after));
       }
       changes.marks.Add(InReport(after, *one.after));
     } else if (report::IsSensor(*one.after)) {
@@ -98,7 +116,9 @@ void MarkSensors(const std::set<const StoredInstance*>& changed, const Round& be
     if (isNew || changed.contains(sensor.instance) || old->state != sensor.state ||
         (old->instance == nullptr) != (sensor.instance == nullptr)) {
       changes.marks.Add(sensor);
-      changes.values += isNew && sensor.instance != nullptr ? 0 : 1;
+      if (!isNew || sensor.instance == nullptr) {
+        changes.changed.push_back(NameForPeople(sensor));
+      }
     }
   }
 }

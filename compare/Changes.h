@@ -17,10 +17,10 @@ struct Round {
 };
 
 struct Changes {
-  report::Marks marks;     // in the later report
-  std::size_t values = 0;  // that changed; a sensor is one
-  // "Fan 1 (VELKSG_SP_NumericSensor) on SP 2", safe to show.
-  std::vector<std::string> added = {};
+  report::Marks marks;  // in the later report
+  // Names, safe to show: "Fan 1 on SP 2", "Address of Network interface 1 on SP 1".
+  std::vector<std::string> changed = {};  // values; a sensor is one
+  std::vector<std::string> added = {};    // instances
   std::vector<std::string> gone = {};
   std::size_t findings = 0;  // that were not there before
 };

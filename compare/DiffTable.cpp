@@ -16,6 +16,18 @@ std::string Describe(const Compared& one) {
          report::Timestamp(one.report->collectedAt) + " (" + text::EscapeForPeople(one.name) + ")";
 }
 
+// Sensors share a title, so they are told by their name.
+std::string TitleOf(const cim::StoredInstance& instance) {
+  std::string title = report::IsSensor(instance)
+                          ? text::EscapeForPeople(report::SensorOf(instance).name) + " (" +
+                                std::string(instance.schema->name) + ")"
+                          : report::InstanceTitle(instance);
+  if (const auto node = report::SourceNode(instance)) {
+    title.append(" on SP ").append(std::to_string(*node));
+  }
+  return title;
+}
+
 std::string ValueText(const cim::Value* value) {
   if (value == nullptr) {
     return "(not set)";
@@ -100,7 +112,7 @@ void WriteDiffTable(const DiffReport& diff, const report::Sink& sink) {
   sink(Describe(diff.after).append("\n\n"));
   for (const Difference& one : diff.differences) {
     std::string out = SignOf(one);
-    out.append(report::TitleAndPlace(one.before == nullptr ? *one.after : *one.before))
+    out.append(TitleOf(one.before == nullptr ? *one.after : *one.before))
         .append("\n");
     AppendRows(out, RowsOf(one));
     sink(out);

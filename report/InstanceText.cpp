@@ -1,9 +1,7 @@
 #include "report/InstanceText.h"
 
 #include "report/AddressText.h"
-#include "report/Sensor.h"
 #include "report/ValueForPeople.h"
-#include "text/TextEscape.h"
 
 #include <cstdint>
 
@@ -79,18 +77,6 @@ std::string InstanceTitle(const cim::StoredInstance& instance) {
   std::string text = NumberedTitle(instance) + " (";
   text += instance.schema->name;
   return text + ')';
-}
-
-std::string TitleAndPlace(const cim::StoredInstance& instance) {
-  std::string title = InstanceTitle(instance);
-  if (IsSensor(instance)) {
-    title = text::EscapeForPeople(SensorOf(instance).name) + " (";
-    title.append(instance.schema->name).append(")");
-  }
-  if (const std::optional<int> node = SourceNode(instance)) {
-    title.append(" on SP ").append(std::to_string(*node));
-  }
-  return title;
 }
 
 std::vector<Row> InstanceRows(const cim::StoredInstance& instance) {

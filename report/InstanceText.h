@@ -25,8 +25,6 @@ std::optional<int> SourceNode(const cim::StoredInstance& instance);
 std::string NumberedTitle(const cim::StoredInstance& instance);
 // "Network interface 1 (VELKSG_ServProc_IPProtocolEndpoint)".
 std::string InstanceTitle(const cim::StoredInstance& instance);
-// Of a sensor its name: "Fan 1 (VELKSG_SP_NumericSensor) on SP 2".
-std::string TitleAndPlace(const cim::StoredInstance& instance);
 
 // In the order in which the properties were set; every property is there, but
 // for the node and what the title says. Values that belong together share a row.

@@ -45,8 +45,9 @@ TEST_F(CommandWatchTest, AppendsRoundsWithTheirTimeAndMarksWhatChanged) {
   EXPECT_EQ(text.find(kFirst), 0U) << text;
   for (const std::string part :
        {"\nTIME, round 2: nothing changed\n\nSP 1  voltage  Planar Voltage +5v  5.00 V\n",
-        "\nTIME, round 3: 1 value changed\n\nSP 1  voltage  Planar Voltage +5v  > 5.10 V\n",
-        "\nTIME, round 4: 1 value changed, 1 new finding\n\n"
+        "\nTIME, round 3: 1 value changed: Planar Voltage +5v on SP 1\n\nSP 1  voltage  Planar "
+        "Voltage +5v  > 5.10 V\n",
+        "\nTIME, round 4: 1 value changed: Planar Voltage +5v on SP 1, 1 new finding\n\n"
         "SP 1  voltage  Planar Voltage +5v  > no answer\n"
         "SP 1  finding  warning  > 42 of 42 sensors on SP 1 did not answer: ",
         "\nTIME, round 5: 1 new finding\n\n"
@@ -70,7 +71,8 @@ TEST_F(CommandWatchTest, DrawsRoundsOverEachOtherOnATerminalAndLeavesTheLast) {
   const std::string text = WithoutTimes(outcome.out);
   const std::string enter = "\x1b[?1049h\x1b[?25l\x1b[?7l\x1b[H";
   const std::string leave = "\x1b[J\x1b[?7h\x1b[?25h\x1b[?1049l";
-  const std::string heading = "\x1b[1mTIME, round 3: 1 value changed\x1b[0m";
+  const std::string heading =
+      "\x1b[1mTIME, round 3: 1 value changed: Planar Voltage +5v on SP 1\x1b[0m";
   EXPECT_EQ(text.find(enter + "\x1b[1mTIME, round 1: the first\x1b[0m\x1b[K\r\n\x1b[K\r\n"), 0U)
       << text;
   EXPECT_NE(text.find("\x1b[J\x1b[H" + heading + "\x1b[K"), std::string::npos) << text;

@@ -28,7 +28,7 @@ compare::Round RoundOf(const Input& input, const std::optional<report::Limits>& 
 }
 
 // The rows that are marked, with one blank between their cells, then what the
-// changes say beside them: "LINE\n...; values, +added -gone, findings".
+// changes say beside them: "LINE\n...; ~changed +added -gone", new findings.
 std::string Marked(const Input& before, const Input& after, double tolerance = 0,
                    const std::optional<report::Limits>& limits = {}) {
   const compare::Round one = RoundOf(before, limits);
@@ -49,7 +49,10 @@ std::string Marked(const Input& before, const Input& after, double tolerance = 0
       marked += line + "\n";
     }
   }
-  marked += "; " + std::to_string(changes.values);
+  marked += ";";
+  for (const std::string& name : changes.changed) {
+    marked += " ~" + name;
+  }
   for (const std::string& name : changes.added) {
     marked += " +" + name;
   }
@@ -80,7 +83,7 @@ cim::StoredInstance Clock(const char* time) {
       {{"SourceNode", Node(1)}, {"Name", "SRV1:Node1"}, {"SPClock", cim::DateTime(time)}});
 }
 
-constexpr const char* kNothing = "; 0 0";
+constexpr const char* kNothing = "; 0";
 
 TEST(Changes, OfValuesAreMarked) {
   const report::Finding finding{report::Severity::Warning, report::FindingCode::Held, 1, "held"};
@@ -92,19 +95,20 @@ TEST(Changes, OfValuesAreMarked) {
   } cases[] = {
       {"nothing at all", {}, {}, kNothing},
       {"the same", {{Fan(40), DialOut("x")}}, {{DialOut("x"), Fan(40)}}, kNothing},
-      {"a reading", {{Fan(40)}}, {{Fan(41)}}, "SP 1 fan Fan 1 > 41 %\n; 1 0"},
+      {"a reading", {{Fan(40)}}, {{Fan(41)}}, "SP 1 fan Fan 1 > 41 %\n; ~Fan 1 on SP 1 0"},
       {"a text",
        {{Interface("a", "255.0.0.0")}},
        {{Interface("b", "255.0.0.0")}},
-       "SP 1 network 1 Host name > b\n; 1 0"},
+       "SP 1 network 1 Host name > b\n; ~Host name of Network interface 1 on SP 1 0"},
       {"what shares another's row",
        {{Interface("a", "255.0.0.0")}},
        {{Interface("a", "255.255.0.0")}},
-       "SP 1 network 1 Address > 192.0.2.21/16 (255.255.0.0)\n; 1 0"},
+       "SP 1 network 1 Address > 192.0.2.21/16 (255.255.0.0)\n; ~Subnet mask of Network interface "
+       "1 on SP 1 0"},
       {"a secret, which stays masked",
        {{DialOut("one")}},
        {{DialOut("two")}},
-       "SP 1 dial-out 2 Password > ********\n; 1 0"},
+       "SP 1 dial-out 2 Password > ********\n; ~Password of Dial-out entry 2 on SP 1 0"},
       {"a clock that went on",
        {{Clock("20240318094107.000000+000")}},
        {{Clock("20240318094117.000000+000")}, {}, {}, std::chrono::seconds(10)},
@@ -112,15 +116,15 @@ TEST(Changes, OfValuesAreMarked) {
       {"a clock that was set",
        {{Clock("20240318094107.000000+000")}},
        {{Clock("20250318094117.000000+000")}, {}, {}, std::chrono::seconds(10)},
-       "SP 1 system Clock > 2025-03-18 09:41:17 UTC+00:00\n; 1 0"},
+       "SP 1 system Clock > 2025-03-18 09:41:17 UTC+00:00\n; ~Clock of Computer system on SP 1 0"},
       {"a finding that is new",
        {{}, {}, {finding}},
        {{}, {}, {finding, {report::Severity::Info, report::FindingCode::NoSp, {}, "no SP"}}},
-       "- finding info > no SP\n; 0 1"},
+       "- finding info > no SP\n; 1"},
       {"the same finding of another service processor",
        {{}, {}, {finding}},
        {{}, {}, {{finding.severity, finding.code, 2, finding.text}}},
-       "SP 2 finding warning > held\n; 0 1"},
+       "SP 2 finding warning > held\n; 1"},
   };
   for (const auto& one : cases) {
     EXPECT_EQ(Marked(one.before, one.after), one.marked) << one.what;
@@ -130,28 +134,26 @@ TEST(Changes, OfValuesAreMarked) {
 TEST(Changes, OfInstancesAreNamed) {
   EXPECT_EQ(Marked({{}}, {{DialOut("x")}}),
             "SP 1 > dial-out 2 Password ********\n"
-            "; 0 +Dial-out entry 2 (VELKSG_ServProc_DialProtocolEndpoint1) on SP 1 0");
-  EXPECT_EQ(Marked({{DialOut("x")}}, {{}}),
-            "; 0 -Dial-out entry 2 (VELKSG_ServProc_DialProtocolEndpoint1) on SP 1 0");
-  EXPECT_EQ(Marked({{}}, {{Fan(40)}}),
-            "SP 1 fan Fan 1 > 40 %\n; 0 +Fan 1 (VELKSG_SP_NumericSensor) on SP 1 0");
-  EXPECT_EQ(Marked({{Fan(40)}}, {{}}), "; 0 -Fan 1 (VELKSG_SP_NumericSensor) on SP 1 0");
+            "; +Dial-out entry 2 on SP 1 0");
+  EXPECT_EQ(Marked({{DialOut("x")}}, {{}}), "; -Dial-out entry 2 on SP 1 0");
+  EXPECT_EQ(Marked({{}}, {{Fan(40)}}), "SP 1 fan Fan 1 > 40 %\n; +Fan 1 on SP 1 0");
+  EXPECT_EQ(Marked({{Fan(40)}}, {{}}), "; -Fan 1 on SP 1 0");
 }
 
 TEST(Changes, OfASensorThatFallsSilentAreNoChangesOfInstances) {
   const report::SilentSensor silent{1, "Fan 1", SensorKind::Fan};
   const Input speaks{{Fan(40)}};
   const Input isSilent{{}, {silent}};
-  EXPECT_EQ(Marked(speaks, isSilent), "SP 1 fan Fan 1 > no answer\n; 1 0");
-  EXPECT_EQ(Marked(isSilent, speaks), "SP 1 fan Fan 1 > 40 %\n; 1 0");
+  EXPECT_EQ(Marked(speaks, isSilent), "SP 1 fan Fan 1 > no answer\n; ~Fan 1 on SP 1 0");
+  EXPECT_EQ(Marked(isSilent, speaks), "SP 1 fan Fan 1 > 40 %\n; ~Fan 1 on SP 1 0");
   EXPECT_EQ(Marked(isSilent, isSilent), kNothing);
   // One that was not there at all is marked when it comes silent.
-  EXPECT_EQ(Marked({{}}, isSilent), "SP 1 fan Fan 1 > no answer\n; 1 0");
+  EXPECT_EQ(Marked({{}}, isSilent), "SP 1 fan Fan 1 > no answer\n; ~Fan 1 on SP 1 0");
 }
 
 TEST(Changes, WithinTheToleranceAreMarkedOnlyWhenTheStateChanges) {
   EXPECT_EQ(Marked({{Fan(40)}}, {{Fan(42)}}, 5), kNothing);
-  EXPECT_EQ(Marked({{Fan(40)}}, {{Fan(43)}}, 5), "SP 1 fan Fan 1 > 43 %\n; 1 0");
+  EXPECT_EQ(Marked({{Fan(40)}}, {{Fan(43)}}, 5), "SP 1 fan Fan 1 > 43 %\n; ~Fan 1 on SP 1 0");
   const report::Limits limits = UpperLimits(41, 50);
   EXPECT_EQ(Marked({{Fan(38)}}, {{Fan(39)}}, 5, limits), kNothing);
   const std::string marked = Marked({{Fan(40)}}, {{Fan(42)}}, 5, limits);
@@ -163,7 +165,7 @@ TEST(Changes, OfSensorsWithOneNameAreToldByTheirOrder) {
   const Input twins{{Fan(40), Fan(50)}};
   const report::Limits limits = UpperLimits(45, 60);
   EXPECT_EQ(Marked(twins, twins, 0, limits), kNothing);
-  EXPECT_EQ(Marked(twins, {{Fan(40), Fan(51)}}), "SP 1 fan Fan 1 > 51 %\n; 1 0");
+  EXPECT_EQ(Marked(twins, {{Fan(40), Fan(51)}}), "SP 1 fan Fan 1 > 51 %\n; ~Fan 1 on SP 1 0");
 }
 
 }  // namespace
