@@ -29,7 +29,7 @@ class Screen : private os::Unfinished {
   Screen& operator=(const Screen&) = delete;
   ~Screen() override;
 
-  void Draw(std::string_view text, std::size_t rows) { fMeans.write(Frame(text, rows)); }
+  void Draw(std::string_view text, std::size_t rows) const { fMeans.write(Frame(text, rows)); }
 
  private:
   void EndBySignal() noexcept override;
