@@ -23,6 +23,7 @@ constexpr const char* kExamples = R"(Examples:
   strake check rack7.server.json        is this server description fine?
   strake diff yesterday.json today.json what changed?
   strake replay run.trace --scrub       a server description out of a trace
+  strake init --output my.server.json   a server description to begin with
   strake classes                        what can be asked for
   strake schema                         the same for CIM tools
 
@@ -146,6 +147,8 @@ CommandLine ParseCommandLine(int argc, const char* const* argv) {
   const Subcommand schemaCommand = AddSchema(app, schema);
   ReplayOptions replay;
   const Subcommand replayCommand = AddReplay(app, replay);
+  InitOptions init;
+  const Subcommand initCommand = AddInit(app, init);
   const Subcommand classesCommand(app, "classes", "List the classes and their short names");
 
   std::string subject;
@@ -180,6 +183,10 @@ CommandLine ParseCommandLine(int argc, const char* const* argv) {
   }
   if (replayCommand.IsGiven()) {
     return replay;
+  }
+  if (initCommand.IsGiven()) {
+    CompleteInit(initCommand, init);
+    return init;
   }
   if (schemaCommand.IsGiven()) {
     return schema;
