@@ -9,11 +9,6 @@
 namespace strake::describe {
 namespace {
 
-struct Example {
-  std::string_view name;
-  std::string_view value;  // a text, an address as people write it, else hexadecimal pairs
-};
-
 constexpr Example kExamples[] = {
     {"presence test", "01"},
     {"SP clock", "18 01 01 00 00 00 00"},  // 2024-01-01 00:00:00
@@ -38,7 +33,6 @@ constexpr Example kExamples[] = {
     {"DHCPAssignedSubnetMask", "255.255.255.0"},
     {"DHCPDomainName", "example.com"},
 
-    {"Parity", "00"},
     {"BaudRate", "03"},  // 9600
     {"PortEnabled", "01"},
     {"InitializationString", "ATZ"},
@@ -70,6 +64,8 @@ std::string_view FindExample(std::string_view name) {
 }
 
 }  // namespace
+
+std::span<const Example> Examples() { return kExamples; }
 
 std::string ExampleValue(std::string_view name, ValueDecoder decode) {
   const std::string_view value = FindExample(name);
