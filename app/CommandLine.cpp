@@ -9,6 +9,7 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <functional>
 #include <utility>
 
 namespace strake::app {
@@ -23,6 +24,7 @@ constexpr const char* kExamples = R"(Examples:
   strake check rack7.server.json        is this server description fine?
   strake diff yesterday.json today.json what changed?
   strake replay run.trace --scrub       a server description out of a trace
+  strake init --output my.server.json   a server description to begin with
   strake classes                        what can be asked for
   strake schema                         the same for CIM tools
 
@@ -126,6 +128,18 @@ TextAnswer Help(CLI::App& app, const std::string& subject) {
                    " (see strake --help)");
 }
 
+struct Answer {
+  const Subcommand& command;
+  std::function<CommandLine()> answer;  // when the command is given
+};
+
+// One of them is.
+CommandLine FirstGiven(const std::vector<Answer>& answers) {
+  const auto given =
+      std::ranges::find_if(answers, [](const Answer& answer) { return answer.command.IsGiven(); });
+  return given->answer();
+}
+
 }  // namespace
 
 CommandLine ParseCommandLine(int argc, const char* const* argv) {
@@ -146,6 +160,8 @@ CommandLine ParseCommandLine(int argc, const char* const* argv) {
   const Subcommand schemaCommand = AddSchema(app, schema);
   ReplayOptions replay;
   const Subcommand replayCommand = AddReplay(app, replay);
+  InitOptions init;
+  const Subcommand initCommand = AddInit(app, init);
   const Subcommand classesCommand(app, "classes", "List the classes and their short names");
 
   std::string subject;
@@ -158,34 +174,18 @@ CommandLine ParseCommandLine(int argc, const char* const* argv) {
   if (std::optional<TextAnswer> answer = Parse(app, Words(argc, argv))) {
     return *std::move(answer);
   }
-  if (helpCommand.IsGiven()) {
-    return Help(app, subject);
-  }
-  if (versionCommand.IsGiven()) {
-    return TextAnswer{std::string(kVersion) + "\n"};
-  }
-  if (classesCommand.IsGiven()) {
-    return TextAnswer{ClassList()};
-  }
-  if (watchCommand.IsGiven()) {
-    CompleteQueries(watchCommand, watch.collect);
-    return watch;
-  }
-  if (checkCommand.IsGiven()) {
-    return check;
-  }
-  if (diffCommand.IsGiven()) {
-    CompleteDiff(diffCommand, diff);
-    return diff;
-  }
-  if (replayCommand.IsGiven()) {
-    return replay;
-  }
-  if (schemaCommand.IsGiven()) {
-    return schema;
-  }
-  CompleteCollect(collectCommand, collect);
-  return collect;
+  return FirstGiven({
+      {helpCommand, [&] { return Help(app, subject); }},
+      {versionCommand, [&] { return TextAnswer{std::string(kVersion) + "\n"}; }},
+      {classesCommand, [] { return TextAnswer{ClassList()}; }},
+      {collectCommand, [&] { return CompleteCollect(collectCommand, collect), collect; }},
+      {watchCommand, [&] { return CompleteQueries(watchCommand, watch.collect), watch; }},
+      {checkCommand, [&] { return check; }},
+      {diffCommand, [&] { return CompleteDiff(diffCommand, diff), diff; }},
+      {replayCommand, [&] { return replay; }},
+      {initCommand, [&] { return CompleteInit(initCommand, init), init; }},
+      {schemaCommand, [&] { return schema; }},
+  });
 }
 
 }  // namespace strake::app

@@ -3,6 +3,7 @@
 
 #include "app/CollectOptions.h"
 #include "app/DiffOptions.h"
+#include "app/InitOptions.h"
 #include "app/ReplayOptions.h"
 #include "app/Schema.h"
 #include "app/WatchOptions.h"
@@ -24,7 +25,7 @@ struct TextAnswer {
 };
 
 using CommandLine = std::variant<CollectOptions, WatchOptions, CheckOptions, DiffOptions,
-                                 ReplayOptions, SchemaOptions, TextAnswer>;
+                                 ReplayOptions, InitOptions, SchemaOptions, TextAnswer>;
 
 // Throws UsageError.
 CommandLine ParseCommandLine(int argc, const char* const* argv);

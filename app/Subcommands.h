@@ -13,9 +13,11 @@ Subcommand AddCheck(CLI::App& app, CheckOptions& options);
 Subcommand AddDiff(CLI::App& app, DiffOptions& options);
 Subcommand AddSchema(CLI::App& app, SchemaOptions& options);
 Subcommand AddReplay(CLI::App& app, ReplayOptions& options);
+Subcommand AddInit(CLI::App& app, InitOptions& options);
 
-// What follows from all options when they are taken. Both throw UsageError.
+// What follows from all options when they are taken. They throw UsageError.
 void CompleteCollect(const Subcommand& command, CollectOptions& options);
 void CompleteDiff(const Subcommand& command, const DiffOptions& options);
+void CompleteInit(const Subcommand& command, InitOptions& options);
 
 }  // namespace strake::app

@@ -4,6 +4,7 @@
 #include "app/CommandLine.h"
 #include "app/Diff.h"
 #include "app/Errors.h"
+#include "app/Init.h"
 #include "app/Messages.h"
 #include "app/Replay.h"
 #include "app/Schema.h"
@@ -27,6 +28,7 @@ struct Runner {
   int operator()(const CheckOptions& options) const { return Check(options); }
   int operator()(const DiffOptions& options) const { return Diff(options); }
   int operator()(const ReplayOptions& options) const { return Replay(options); }
+  int operator()(const InitOptions& options) const { return Init(options); }
   int operator()(const SchemaOptions& options) const {
     WriteSchema(options);
     return kExitDone;

@@ -1,7 +1,9 @@
-// What a query costs beside the least that it could cost.
+// What a query costs beside the least that it could cost, and a report of each
+// format.
 #include "bench/Floor.h"
 #include "bench/Groups.h"
 #include "bench/Ratios.h"
+#include "bench/ReportBench.h"
 #include "platform/boundary/BoundaryObserver.h"
 #include "platform/hostcore/HostControl.h"
 #include "platform/hostcore/Repository.h"
@@ -156,6 +158,7 @@ void Register() {
         *benchmark::RegisterBenchmark(("Scale/" + std::to_string(sps)).c_str(),
                                       [sps](benchmark::State& state) { RunScale(state, sps); }));
   }
+  RegisterReports(Configure);
 }
 
 // Keeps freed memory in the process: otherwise runs that fill the host with

@@ -16,6 +16,8 @@ std::optional<TavitList> FindTavitList(int code) {
   return std::nullopt;
 }
 
+std::span<const char* const> TavitMachines() { return MachineTypeArray; }
+
 std::string_view MachineType(std::string_view machineTypeModel) {
   return machineTypeModel.substr(0, 4);
 }

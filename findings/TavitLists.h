@@ -33,6 +33,9 @@ inline constexpr std::array<TavitListFacts, 3> kTavitLists{{
 // By the command's code.
 std::optional<TavitList> FindTavitList(int code);
 
+// The machine types that have a processor.
+std::span<const char* const> TavitMachines();
+
 // "5125" of "5125-K2G".
 std::string_view MachineType(std::string_view machineTypeModel);
 

@@ -16,20 +16,12 @@ using platform::ServerDescription;
 using text::InputError;
 
 constexpr std::string_view kSource = "fuzzed.server.json";
-constexpr std::size_t kLongestMessage = 1024;
-
-void CheckMessage(std::string_view message) {
-  Check(message.starts_with(kSource), "a refusal names the file");
-  Check(message.size() <= kLongestMessage, "a refusal is short");
-  Check(std::ranges::all_of(message, [](char byte) { return byte >= ' ' && byte <= '~'; }),
-        "a refusal is one line of printable ASCII");
-}
 
 std::optional<ServerDescription> Parse(std::string_view text) {
   try {
     return platform::ParseServerDescription(text, std::string(kSource));
   } catch (const InputError& error) {
-    CheckMessage(error.what());
+    CheckRefusal(error.what(), kSource);
     return std::nullopt;
   }
 }

@@ -14,6 +14,9 @@ namespace strake::fuzz {
 int FuzzDescription(const std::uint8_t* data, std::size_t size);
 // The bytes are a server and queries (ServerBytes.h), run through the module's code.
 int FuzzQuery(const std::uint8_t* data, std::size_t size);
+// The bytes are the text of a trace; one that is accepted is written as a
+// description, as it is and scrubbed, and read again.
+int FuzzReplay(const std::uint8_t* data, std::size_t size);
 // The bytes are a finished collection (ReportBytes.h), written in every format.
 int FuzzReport(const std::uint8_t* data, std::size_t size);
 // The bytes are a reply, given to the element walk and to every decoder.
@@ -26,10 +29,8 @@ struct Harness {
 
 // CMake and scripts/fuzz know them by their folders of seeds.
 inline constexpr Harness kHarnesses[] = {
-    {"description", FuzzDescription},
-    {"query", FuzzQuery},
-    {"report", FuzzReport},
-    {"walk", FuzzWalk},
+    {"description", FuzzDescription}, {"query", FuzzQuery}, {"replay", FuzzReplay},
+    {"report", FuzzReport},           {"walk", FuzzWalk},
 };
 
 // Null when there is none of the name.

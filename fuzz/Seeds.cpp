@@ -37,6 +37,7 @@ std::vector<NamedServer> ReadServers(const fs::path& folder) {
 
 Seeds SeedsOf(std::string_view harness, const std::vector<NamedServer>& servers) {
   if (harness == "description") return DescriptionSeeds(servers);
+  if (harness == "replay") return ReplaySeeds(servers);
   if (harness == "report") return ReportSeeds(servers);
   if (harness == "walk") return WalkSeeds(servers);
   if (harness != "query") throw std::out_of_range("no seeds for " + std::string(harness));

@@ -33,10 +33,15 @@ Seeds SeedsOf(std::string_view harness, const std::vector<NamedServer>& servers)
 // it for, which is what a fuzzer gets through quickly.
 ServerCase CutDown(platform::ServerDescription server, const Query& query);
 
+// Of the queries, in a process as it is fresh.
+std::string TraceOf(const platform::ServerDescription& server, const std::vector<Query>& queries);
+
 // Every server with its whole collection, and the Orlo ones cut down to each query.
 Seeds QuerySeeds(const std::vector<NamedServer>& servers);
 // Servers whose replies are not to be believed, and hosts that fail.
 Seeds HostileQuerySeeds();
+// The traces of queries, without what is only told, and every other line of a trace.
+Seeds ReplaySeeds(const std::vector<NamedServer>& servers);
 // What the servers' collections bring, cut down, and instances of any text.
 Seeds ReportSeeds(const std::vector<NamedServer>& servers);
 // The replies of the servers and records that hold nothing but trouble.

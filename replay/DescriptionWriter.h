@@ -1,4 +1,4 @@
-// Writes a server description for people and for the next run.
+// Writes a replay as a server description.
 #pragma once
 
 #include "replay/Replay.h"
@@ -12,8 +12,8 @@ namespace strake::replay {
 // The words of a shell that collect the same again from the description.
 std::string CommandOf(const Replay& replay, std::string_view file);
 
-// The JSON text (strake-server/1): one command a line, what is as by default left
-// out; "capture" names the source, the command and the warnings.
+// The JSON text, replies as bytes; "capture" names the source, the command and the
+// warnings.
 std::string WriteDescription(const Replay& replay);
 
 }  // namespace strake::replay

@@ -1,8 +1,7 @@
 #include "replay/ReplyPieces.h"
 
+#include "describe/ReplyLayout.h"
 #include "findings/Commands.h"
-#include "plugin/config/NetworkRecords.h"
-#include "plugin/config/Records.h"
 #include "plugin/environ/KestleSensors.h"
 
 #include <algorithm>
@@ -132,32 +131,6 @@ void MarkRecord(Uses& uses, std::string_view bytes, const RecordLayout& layout) 
   }
 }
 
-// Null when there is none of this name.
-const RecordLayout* FindRecord(std::string_view name) {
-  for (const NamedRecord& record : AllRecords()) {
-    if (record.name == name) {
-      return &record.layout;
-    }
-  }
-  const auto* const found = std::ranges::find(kSummaryRecords, name, &SummaryRecord::name);
-  return found == std::end(kSummaryRecords) ? nullptr : &found->layout;
-}
-
-// Of a reply that is one value; null for what is none of these.
-ValueDecoder FindDecoder(std::string_view name) {
-  for (const SummaryValue& value : kSummaryValues) {
-    if (value.name == name) {
-      return value.decode;
-    }
-  }
-  for (const DhcpValue& value : kDhcpValues) {
-    if (value.name == name) {
-      return value.decode;
-    }
-  }
-  return nullptr;
-}
-
 }  // namespace
 
 std::vector<Piece> PiecesOfDotReply(const platform::Identifier& identifier,
@@ -168,10 +141,10 @@ std::vector<Piece> PiecesOfDotReply(const platform::Identifier& identifier,
   if (!known || std::ranges::equal(key, kPresenceTest.Bytes())) {
     return uses.Pieces();
   }
-  if (const RecordLayout* const layout = FindRecord(known->command->name)) {
+  if (const RecordLayout* const layout = describe::FindRecord(known->command->name)) {
     MarkRecord(uses, bytes, *layout);
   } else {
-    uses.MarkValue(0, bytes.size(), FindDecoder(known->command->name));
+    uses.MarkValue(0, bytes.size(), describe::FindDecoder(known->command->name));
   }
   return uses.Pieces();
 }

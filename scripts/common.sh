@@ -9,7 +9,7 @@ root="$PWD"
 logs="$root/build/logs"
 # The folders of what is shipped.
 # shellcheck disable=SC2034
-products=(plugin text os cim json platform report compare findings schema replay app)
+products=(plugin text os cim json platform report compare findings schema describe replay app)
 
 # Compilers run through ccache where it is installed; whoever wants another
 # launcher, or none, says so.

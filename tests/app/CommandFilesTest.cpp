@@ -105,8 +105,8 @@ TEST_F(CommandFilesTest, RefusesWrongUsageAndTouchesNothing) {
             "strake: --class: there is no class 'two\\nlines'");
   ExpectEnd(Collect({"--format", "xml"}), 2, "strake: --format: there is no format 'xml'");
   ExpectEnd(Strake({}), 2,
-            "strake: a subcommand was expected: collect, check, diff, schema, replay, classes, "
-            "help or version");
+            "strake: a subcommand was expected: collect, watch, check, diff, schema, replay, "
+            "init, classes, help or version");
 }
 
 TEST_F(CommandFilesTest, FailsOverAModuleThatCannotBeLoadedAndTouchesNothing) {

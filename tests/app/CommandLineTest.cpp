@@ -203,7 +203,8 @@ TEST(CommandLine, RefusesWhatItDoesNotKnow) {
   };
   const std::vector<Case> cases = {
       {{},
-       "a subcommand was expected: collect, check, diff, schema, replay, classes, help or version"},
+       "a subcommand was expected: collect, watch, check, diff, schema, replay, init, classes, "
+       "help or version"},
       {{"gather"}, "there is no subcommand 'gather'"},
       {{""}, "there is no subcommand ''"},
       {{"colect", "--server", "s"}, "there is no subcommand 'colect', did you mean 'collect'?"},

@@ -1,10 +1,6 @@
 #include "tests/replay/Collected.h"
 
 #include "fuzz/Seeds.h"
-#include "platform/boundary/TraceWriter.h"
-#include "platform/session/HostSession.h"
-#include "plugin/config/SharedIdentifiers.h"
-#include "plugin/frame/ModuleEntry.h"
 #include "replay/DescriptionWriter.h"
 #include "replay/ReplayBuilder.h"
 #include "replay/TraceReader.h"
@@ -15,7 +11,6 @@
 #include <filesystem>
 #include <random>
 #include <span>
-#include <sstream>
 
 namespace strake::tests {
 namespace {
@@ -47,18 +42,7 @@ std::string Mutate(std::string bytes, std::mt19937& random) {
 }  // namespace
 
 std::string TraceOf(const platform::ServerDescription& server, const Queries& queries) {
-  Identifiers() = SharedIdentifiers{};
-  std::ostringstream out;
-  platform::TraceWriter trace(out);
-  platform::HostSession session(server, &trace);
-  session.Attach(&StrakeModuleEntry);
-  session.Initialize();
-  for (const auto& classes : queries) {
-    session.Query(classes);
-  }
-  session.Deinitialize();
-  session.Detach();
-  return MaskAddresses(out.str());
+  return MaskAddresses(fuzz::TraceOf(server, queries));
 }
 
 replay::Replay ReplayOf(const std::string& trace) {
