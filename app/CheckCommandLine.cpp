@@ -24,7 +24,7 @@ Subcommand AddCheck(CLI::App& app, CheckOptions& options) {
                 [&options](const std::string& value) { options.files.emplace_back(value); })
       .Required()
       .Several()
-      .Check(RefuseEmptyName);
+      .NamesFile();
   return command;
 }
 

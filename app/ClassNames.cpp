@@ -1,6 +1,7 @@
 #include "app/ClassNames.h"
 
 #include "cim/Catalogue.h"
+#include "text/OrList.h"
 
 #include <algorithm>
 
@@ -15,6 +16,13 @@ std::string ShortClassNames() {
     names += one.shortName;
   }
   return names;
+}
+
+std::vector<std::string> AllClassNames() {
+  std::vector<std::string> all = text::Names(cim::SchemaClasses(), &cim::SchemaClass::shortName);
+  const std::vector<std::string> names = text::Names(cim::SchemaClasses(), &cim::SchemaClass::name);
+  all.insert(all.end(), names.begin(), names.end());
+  return all;
 }
 
 std::string RefusalOfClass(const std::string& name) {

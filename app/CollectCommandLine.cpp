@@ -3,7 +3,9 @@
 #include "app/QueryOptions.h"
 #include "app/QueryPlan.h"
 #include "app/Subcommands.h"
+#include "text/OrList.h"
 
+#include <array>
 #include <string>
 
 namespace strake::app {
@@ -26,26 +28,14 @@ Exit status: 0 the queries ran, 1 the run failed, 2 wrong usage or a refused inp
 Traces and logs hold what the service processors said, passwords included; they
 are created with mode 0600.)";
 
-std::string RefuseUnknownFormat(const std::string& name) {
-  return report::FindFormat(name) != nullptr
-             ? ""
-             : "there is no format '" + name + "', expected " + report::FormatNames();
-}
-
-std::optional<report::Severity> ParseFailOn(const std::string& name) {
-  const std::optional<report::Severity> severity = report::FindSeverity(name);
-  return severity == report::Severity::Info ? std::nullopt : severity;
-}
-
-std::string RefuseFailOn(const std::string& name) {
-  return ParseFailOn(name) ? "" : "'" + name + "' is none, expected warning or critical";
-}
-
 void AddFailOn(Subcommand& app, CollectOptions& options) {
-  app.AddValue("--fail-on", "SEVERITY",
-               "Exit with 3 when there is a finding of this severity or above: warning or critical",
-               [&options](const std::string& value) { options.failOn = ParseFailOn(value); })
-      .Check(RefuseFailOn);
+  constexpr std::array kFailing{report::Severity::Warning, report::Severity::Critical};
+  app.AddValue(
+         "--fail-on", "SEVERITY",
+         "Exit with 3 when there is a finding of this severity or above: " +
+             text::OrList(kFailing, report::SeverityName),
+         [&options](const std::string& value) { options.failOn = report::FindSeverity(value); })
+      .OneOf(text::Names(kFailing, report::SeverityName));
 }
 
 void AddOutput(Subcommand& app, CollectOptions& options) {
@@ -54,7 +44,7 @@ void AddOutput(Subcommand& app, CollectOptions& options) {
                    "; default: what the ending of --output says, else " +
                    std::string(report::Formats().front().name),
                [&options](const std::string& value) { options.format = report::FindFormat(value); })
-      .Check(RefuseUnknownFormat);
+      .OneOf(text::Names(report::Formats(), &report::Format::name), "format");
   app.AddFile("--output", "Where the report goes; default: standard output", options.output);
 }
 

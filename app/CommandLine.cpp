@@ -15,6 +15,8 @@
 namespace strake::app {
 namespace {
 
+constexpr const char* kVersion = "strake " STRAKE_VERSION;
+
 constexpr const char* kExamples = R"(Examples:
   strake collect                        the demonstration server, as a table
   strake collect --demo demo-tavit      the other demonstration server
@@ -63,10 +65,12 @@ std::string DidYouMeanCommand(const std::string& word, const CLI::App& app) {
   return DidYouMean(word, names);
 }
 
+std::string NameOf(const CLI::App* command) { return command->get_name(); }
+
 // For people: "collect, check, help or version".
 std::string CommandNames(const CLI::App& app) {
   const std::vector<const CLI::App*> commands = app.get_subcommands({});
-  return text::OrList(commands, [](const CLI::App* command) { return command->get_name(); });
+  return text::OrList(commands, NameOf);
 }
 
 // What is wrong with a word that nothing took.
@@ -143,7 +147,6 @@ CommandLine FirstGiven(const std::vector<Answer>& answers) {
 }  // namespace
 
 CommandLine ParseCommandLine(int argc, const char* const* argv) {
-  constexpr const char* kVersion = "strake " STRAKE_VERSION;
   CLI::App app("Collects what a server's service processors say about themselves.", "strake");
   app.set_version_flag("--version", kVersion);
   app.require_subcommand(1);
@@ -163,13 +166,17 @@ CommandLine ParseCommandLine(int argc, const char* const* argv) {
   InitOptions init;
   const Subcommand initCommand = AddInit(app, init);
   const Subcommand classesCommand(app, "classes", "List the classes and their short names");
+  CompletionOptions completion;
+  const Subcommand completionCommand = AddCompletion(app, completion);
 
   std::string subject;
   Subcommand helpCommand(app, "help", "Say how strake or a subcommand is used");
-  helpCommand.AddValue("subcommand", "SUBCOMMAND", "One of the others",
-                       [&subject](const std::string& value) { subject = value; });
+  Option subjectWord =
+      helpCommand.AddValue("subcommand", "SUBCOMMAND", "One of the others",
+                           [&subject](const std::string& value) { subject = value; });
   const Subcommand versionCommand(app, "version", "Say which version this is");
-  app.footer(kExamples);  // a subcommand that is added later would have it too
+  subjectWord.Offers(text::Names(app.get_subcommands({}), NameOf));
+  app.footer(kExamples);
 
   if (std::optional<TextAnswer> answer = Parse(app, Words(argc, argv))) {
     return *std::move(answer);
@@ -178,6 +185,7 @@ CommandLine ParseCommandLine(int argc, const char* const* argv) {
       {helpCommand, [&] { return Help(app, subject); }},
       {versionCommand, [&] { return TextAnswer{std::string(kVersion) + "\n"}; }},
       {classesCommand, [] { return TextAnswer{ClassList()}; }},
+      {completionCommand, [&] { return TextAnswer{completion.shell->write(OutlineOf(app))}; }},
       {collectCommand, [&] { return CompleteCollect(collectCommand, collect), collect; }},
       {watchCommand, [&] { return CompleteQueries(watchCommand, watch.collect), watch; }},
       {checkCommand, [&] { return check; }},

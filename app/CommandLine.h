@@ -19,7 +19,7 @@ struct CheckOptions {
   std::vector<std::filesystem::path> files;  // "-": standard input
 };
 
-// Help, version or list of classes: a text for standard output, nothing else.
+// Help, version, list of classes or completion: a text for standard output, nothing else.
 struct TextAnswer {
   std::string text;
 };

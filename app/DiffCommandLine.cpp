@@ -2,6 +2,7 @@
 #include "app/Input.h"
 #include "app/Percentage.h"
 #include "app/Subcommands.h"
+#include "text/OrList.h"
 
 #include <algorithm>
 #include <array>
@@ -32,17 +33,6 @@ constexpr std::array<NamedWriter, 2> kWriters{{
     {"json", compare::WriteDiffJson},
 }};
 
-// Null when there is none of this name.
-DiffWriter FindWriter(std::string_view name) {
-  const auto* const found = std::ranges::find(kWriters, name, &NamedWriter::name);
-  return found == kWriters.end() ? nullptr : found->write;
-}
-
-std::string RefuseWriter(const std::string& name) {
-  return FindWriter(name) != nullptr ? ""
-                                     : "there is no format '" + name + "', expected table or json";
-}
-
 }  // namespace
 
 Subcommand AddDiff(CLI::App& app, DiffOptions& options) {
@@ -51,12 +41,12 @@ Subcommand AddDiff(CLI::App& app, DiffOptions& options) {
       .AddValue("before", "BEFORE", "A report as JSON; - is standard input",
                 [&options](const std::string& value) { options.before = value; })
       .Required()
-      .Check(RefuseEmptyName);
+      .NamesFile();
   command
       .AddValue("after", "AFTER", "A later one",
                 [&options](const std::string& value) { options.after = value; })
       .Required()
-      .Check(RefuseEmptyName);
+      .NamesFile();
   command
       .AddValue("--tolerance", "PERCENT",
                 "Readings that changed by no more are the same; default: 0",
@@ -65,9 +55,12 @@ Subcommand AddDiff(CLI::App& app, DiffOptions& options) {
                 })
       .Check(RefusePercentage);
   command
-      .AddValue("--format", "FORMAT", "table or json; default: table",
-                [&options](const std::string& value) { options.write = FindWriter(value); })
-      .Check(RefuseWriter);
+      .AddValue("--format", "FORMAT",
+                text::OrList(kWriters, &NamedWriter::name) + "; default: table",
+                [&options](const std::string& value) {
+                  options.write = std::ranges::find(kWriters, value, &NamedWriter::name)->write;
+                })
+      .OneOf(text::Names(kWriters, &NamedWriter::name), "format");
   command.AddFile("--output", "Where the differences go; default: standard output", options.output);
   return command;
 }

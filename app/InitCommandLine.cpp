@@ -29,13 +29,6 @@ file is there already and not empty.)";
 
 constexpr std::array<SpKind, 2> kKinds = {SpKind::Orlo, SpKind::Tavit};
 
-std::string RefuseKind(const std::string& name) {
-  return std::ranges::find(kKinds, name, platform::KindName) != kKinds.end()
-             ? ""
-             : "there is no kind '" + name + "', expected " +
-                   text::OrList(kKinds, platform::KindName);
-}
-
 constexpr std::size_t kTypeDigits = 4;
 constexpr const char* kUsualModel = "-AC1";
 
@@ -69,7 +62,7 @@ Subcommand AddInit(CLI::App& app, InitOptions& options) {
                 [&options](const std::string& value) {
                   options.kind = *std::ranges::find(kKinds, value, platform::KindName);
                 })
-      .Check(RefuseKind);
+      .OneOf(text::Names(kKinds, platform::KindName), "kind");
   command
       .AddValue("--machine", "TYPE",
                 "The machine type, or type and model; default: 9999-AC1, for tavit " +

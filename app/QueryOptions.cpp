@@ -23,10 +23,13 @@ std::string RefuseUnknownClass(const std::string& name) {
   return cim::FindClassByAnyName(name) != nullptr ? "" : RefusalOfClass(name);
 }
 
-std::string RefuseUnknownDemo(const std::string& name) {
-  return FindBuiltInServer(name) != nullptr ? ""
-                                            : "there is no built-in server '" + name +
-                                                  "', expected one of " + BuiltInServerNames();
+// "0" up to the highest.
+std::vector<std::string> LogLevels() {
+  std::vector<std::string> levels;
+  for (int level = 0; level <= kHighestLogLevel; ++level) {
+    levels.push_back(std::to_string(level));
+  }
+  return levels;
 }
 
 std::string RefuseLogLevel(const std::string& level) {
@@ -67,17 +70,6 @@ constexpr std::array<NamedOrder, 3> kOrders{{
     {"state", report::SensorOrder::ByState},
 }};
 
-const NamedOrder* FindOrder(std::string_view name) {
-  const auto* const found = std::ranges::find(kOrders, name, &NamedOrder::name);
-  return found == kOrders.end() ? nullptr : found;
-}
-
-std::string RefuseOrder(const std::string& name) {
-  return FindOrder(name) != nullptr
-             ? ""
-             : "'" + name + "' is none, expected " + text::OrList(kOrders, &NamedOrder::name);
-}
-
 // What selects of classes that are not asked for would have no effect.
 void RefuseSelectionOfOtherClasses(const Subcommand& command, const CollectOptions& options) {
   const std::vector<const cim::SchemaClass*> asked = ClassesOf(QueriesOf(options));
@@ -114,7 +106,7 @@ void AddInput(Subcommand& app, CollectOptions& options) {
   app.AddValue("--demo", "NAME",
                "A built-in demonstration server: " + BuiltInServerNames() + "; default: demo-orlo",
                [&options](const std::string& value) { options.demo = value; })
-      .Check(RefuseUnknownDemo)
+      .OneOf(text::Names(BuiltInServers(), &BuiltInServer::name), "built-in server")
       .Excludes(server);
   app.AddFile("--plugin", "The plug-in module; default: strake.so near the command",
               options.plugin);
@@ -129,6 +121,7 @@ void AddQueries(Subcommand& app, CollectOptions& options) {
                      options.classes.emplace_back(cim::FindClassByAnyName(value)->name);
                    })
           .Check(RefuseUnknownClass)
+          .Offers(AllClassNames())
           .Repeatable();
   app.AddValue("--query", "LIST",
                "Instead: one query with exactly these classes, separated by commas (repeatable); "
@@ -160,8 +153,10 @@ void AddLayout(Subcommand& app, CollectOptions& options) {
   app.AddValue(
          "--sort", "KEY",
          "How the table's sensors follow each other: " + text::OrList(kOrders, &NamedOrder::name),
-         [&options](const std::string& value) { options.order = FindOrder(value)->order; })
-      .Check(RefuseOrder);
+         [&options](const std::string& value) {
+           options.order = std::ranges::find(kOrders, value, &NamedOrder::name)->order;
+         })
+      .OneOf(text::Names(kOrders, &NamedOrder::name));
   app.AddFlag("--no-header", "The table's rows alone", [&options] { options.header = false; });
 }
 
@@ -170,7 +165,8 @@ void AddLog(Subcommand& app, CollectOptions& options) {
   app.AddValue("--log-level", "N",
                "Log lines up to this level, 0 to 4; default: 1, or 4 with --log",
                [&options](const std::string& value) { options.logLevel = value[0] - '0'; })
-      .Check(RefuseLogLevel);
+      .Check(RefuseLogLevel)
+      .Offers(LogLevels());
 }
 
 void AddDiscretion(Subcommand& app, CollectOptions& options) {

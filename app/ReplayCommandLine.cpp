@@ -26,7 +26,7 @@ Subcommand AddReplay(CLI::App& app, ReplayOptions& options) {
       .AddValue("trace", "TRACE", "What collect --trace wrote; - is standard input",
                 [&options](const std::string& value) { options.trace = value; })
       .Required()
-      .Check(RefuseEmptyName);
+      .NamesFile();
   command.AddFlag("--scrub", "Replace names, addresses and texts, each by the same everywhere",
                   [&options] { options.scrub = true; });
   command.AddFile("--output", "Where the description goes; default: standard output",

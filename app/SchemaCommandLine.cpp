@@ -1,5 +1,6 @@
 // The options of `strake schema`.
 #include "app/Subcommands.h"
+#include "text/OrList.h"
 
 namespace strake::app {
 namespace {
@@ -24,11 +25,7 @@ Subcommand AddSchema(CLI::App& app, SchemaOptions& options) {
           "--format", "FORMAT",
           contents + "; default: " + std::string(schema::Formats().front().name),
           [&options](const std::string& value) { options.format = schema::FindFormat(value); })
-      .Check([](const std::string& name) {
-        return schema::FindFormat(name) != nullptr
-                   ? ""
-                   : "there is no format '" + name + "', expected " + schema::FormatNames();
-      });
+      .OneOf(text::Names(schema::Formats(), &schema::Format::name), "format");
   command.AddFile("--output", "Where the text goes; default: standard output", options.output);
   return command;
 }

@@ -1,14 +1,89 @@
 #include "app/Subcommand.h"
 
 #include "app/Errors.h"
+#include "text/OrList.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
+#include <functional>
+#include <map>
+#include <memory>
+#include <utility>
 
 namespace strake::app {
+
+class DefinedSubcommand : public CLI::App {
+ public:
+  DefinedSubcommand(const std::string& description, const std::string& name)
+      : CLI::App(description, name) {}
+
+  OptionHints& HintsOf(const CLI::Option* option) { return fHints[option]; }
+  [[nodiscard]] OptionHints FindHints(const CLI::Option* option) const {
+    const auto found = fHints.find(option);
+    return found == fHints.end() ? OptionHints() : found->second;
+  }
+
+ private:
+  std::map<const CLI::Option*, OptionHints> fHints;
+};
+
+namespace {
+
+DefinedSubcommand* Define(CLI::App& app, const std::string& name, const std::string& description) {
+  const auto command = std::make_shared<DefinedSubcommand>(description, name);
+  app.add_subcommand(command);
+  return command.get();
+}
+
+std::string RefuseEmptyName(const std::string& name) {
+  return name.empty() ? "the name of a file was expected" : "";
+}
+
+OptionOutline Outline(const CLI::Option& option, OptionHints hints) {
+  OptionOutline outline;
+  for (const std::string& name : option.get_snames()) {
+    outline.names.push_back("-" + name);
+  }
+  for (const std::string& name : option.get_lnames()) {
+    outline.names.push_back("--" + name);
+  }
+  outline.text = option.get_description();
+  outline.type = option.get_items_expected_max() == 0 ? "" : option.get_type_name();
+  outline.isFile = hints.isFile;
+  outline.offered = std::move(hints.offered);
+  outline.isRepeatable = option.get_positional()
+                             ? option.get_items_expected_max() > 1
+                             : option.get_multi_option_policy() == CLI::MultiOptionPolicy::TakeAll;
+  return outline;
+}
+
+}  // namespace
 
 Option& Option::Check(const Refusal& refusal) {
   fOption->check(refusal);
   return *this;
+}
+
+Option& Option::OneOf(std::vector<std::string> names, const std::string& noun) {
+  Offers(names);
+  return Check([names = std::move(names), noun](const std::string& value) -> std::string {
+    if (std::ranges::find(names, value) != names.end()) {
+      return "";
+    }
+    const std::string expected = ", expected " + text::OrList(names, std::identity());
+    return noun.empty() ? "'" + value + "' is none" + expected
+                        : "there is no " + noun + " '" + value + "'" + expected;
+  });
+}
+
+Option& Option::Offers(std::vector<std::string> values) {
+  fHints->offered = std::move(values);
+  return *this;
+}
+
+Option& Option::NamesFile() {
+  fHints->isFile = true;
+  return Check(RefuseEmptyName);
 }
 
 Option& Option::Repeatable() {
@@ -33,7 +108,7 @@ Option& Option::Excludes(const Option& other) {
 
 Subcommand::Subcommand(CLI::App& app, const std::string& name, const std::string& description,
                        const std::string& footer)
-    : fCommand(app.add_subcommand(name, description)) {
+    : fCommand(Define(app, name, description)) {
   fCommand->footer(footer);
 }
 
@@ -45,14 +120,15 @@ Option Subcommand::AddValue(const std::string& name, const std::string& type,
     }
     return true;
   };
-  return Option(
-      fCommand->add_option(name, takeAll, text)->type_name(type)->allow_extra_args(false));
+  CLI::Option* const option =
+      fCommand->add_option(name, takeAll, text)->type_name(type)->allow_extra_args(false);
+  return {option, fCommand->HintsOf(option)};
 }
 
 Option Subcommand::AddFile(const std::string& name, const std::string& text,
                            std::optional<std::filesystem::path>& file) {
   return AddValue(name, "FILE", text, [&file](const std::string& value) { file = value; })
-      .Check(RefuseEmptyName);
+      .NamesFile();
 }
 
 void Subcommand::AddFlag(const std::string& name, const std::string& text,
@@ -68,8 +144,20 @@ void Subcommand::Refuse(const std::string& text) const {
   throw UsageError(text + " (see strake " + fCommand->get_name() + " --help)");
 }
 
-std::string RefuseEmptyName(const std::string& name) {
-  return name.empty() ? "the name of a file was expected" : "";
+CommandOutline OutlineOf(const CLI::App& command) {
+  CommandOutline outline;
+  outline.name = command.get_name();
+  outline.text = command.get_description();
+  const auto* const defined = dynamic_cast<const DefinedSubcommand*>(&command);
+  for (const CLI::Option* const option : command.get_options()) {
+    auto& place = option->get_positional() ? outline.words : outline.options;
+    place.push_back(
+        Outline(*option, defined == nullptr ? OptionHints() : defined->FindHints(option)));
+  }
+  for (const CLI::App* const subcommand : command.get_subcommands({})) {
+    outline.subcommands.push_back(OutlineOf(*subcommand));
+  }
+  return outline;
 }
 
 }  // namespace strake::app

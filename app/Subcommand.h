@@ -2,10 +2,13 @@
 // that costs every source which includes it seconds.
 #pragma once
 
+#include "app/CommandOutline.h"
+
 #include <filesystem>
 #include <functional>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace CLI {  // NOLINT(readability-identifier-naming): the library's
 class App;
@@ -19,11 +22,23 @@ using Take = std::function<void(const std::string&)>;
 // What is wrong with a value; empty when it is fine.
 using Refusal = std::function<std::string(const std::string&)>;
 
+// What the library does not keep of an option.
+struct OptionHints {
+  bool isFile = false;
+  std::vector<std::string> offered;
+};
+
 class Option {
  public:
-  explicit Option(CLI::Option* option) : fOption(option) {}
+  Option(CLI::Option* option, OptionHints& hints) : fOption(option), fHints(&hints) {}
 
   Option& Check(const Refusal& refusal);
+  // Its value is one of these, and any other is refused; the noun is for the refusal.
+  Option& OneOf(std::vector<std::string> names, const std::string& noun = "");
+  // Values that completion offers; what is refused is for a check to say.
+  Option& Offers(std::vector<std::string> values);
+  // Its value is the name of a file, and not empty.
+  Option& NamesFile();
   // Given several times, it takes every value.
   Option& Repeatable();
   // Of one that has no name of its own: all words that follow.
@@ -33,7 +48,10 @@ class Option {
 
  private:
   CLI::Option* fOption;
+  OptionHints* fHints;
 };
+
+class DefinedSubcommand;
 
 // A handle: what it names belongs to the command line.
 class Subcommand {
@@ -57,10 +75,10 @@ class Subcommand {
   [[noreturn]] void Refuse(const std::string& text) const;
 
  private:
-  CLI::App* fCommand;
+  DefinedSubcommand* fCommand;
 };
 
-// A check for the name of a file.
-std::string RefuseEmptyName(const std::string& name);
+// Of the command or a subcommand.
+CommandOutline OutlineOf(const CLI::App& command);
 
 }  // namespace strake::app

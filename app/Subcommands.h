@@ -3,9 +3,14 @@
 #pragma once
 
 #include "app/CommandLine.h"
+#include "app/CompletionShells.h"
 #include "app/Subcommand.h"
 
 namespace strake::app {
+
+struct CompletionOptions {
+  const CompletionShell* shell = nullptr;
+};
 
 Subcommand AddCollect(CLI::App& app, CollectOptions& options);
 Subcommand AddWatch(CLI::App& app, WatchOptions& options);
@@ -14,6 +19,7 @@ Subcommand AddDiff(CLI::App& app, DiffOptions& options);
 Subcommand AddSchema(CLI::App& app, SchemaOptions& options);
 Subcommand AddReplay(CLI::App& app, ReplayOptions& options);
 Subcommand AddInit(CLI::App& app, InitOptions& options);
+Subcommand AddCompletion(CLI::App& app, CompletionOptions& options);
 
 // What follows from all options when they are taken. They throw UsageError.
 void CompleteCollect(const Subcommand& command, CollectOptions& options);

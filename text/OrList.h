@@ -5,6 +5,7 @@
 #include <functional>
 #include <iterator>
 #include <string>
+#include <vector>
 
 namespace strake::text {
 
@@ -21,6 +22,17 @@ std::string OrList(const Rows& rows, const Name& name) {
     --left;
   }
   return list;
+}
+
+// Of each row, what the function or member says.
+template <typename Rows, typename Name>
+std::vector<std::string> Names(const Rows& rows, const Name& name) {
+  std::vector<std::string> names;
+  names.reserve(std::size(rows));
+  for (const auto& row : rows) {
+    names.emplace_back(std::invoke(name, row));
+  }
+  return names;
 }
 
 }  // namespace strake::text

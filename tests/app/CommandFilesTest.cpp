@@ -106,7 +106,7 @@ TEST_F(CommandFilesTest, RefusesWrongUsageAndTouchesNothing) {
   ExpectEnd(Collect({"--format", "xml"}), 2, "strake: --format: there is no format 'xml'");
   ExpectEnd(Strake({}), 2,
             "strake: a subcommand was expected: collect, watch, check, diff, schema, replay, "
-            "init, classes, help or version");
+            "init, classes, completion, help or version");
 }
 
 TEST_F(CommandFilesTest, FailsOverAModuleThatCannotBeLoadedAndTouchesNothing) {

@@ -204,7 +204,7 @@ TEST(CommandLine, RefusesWhatItDoesNotKnow) {
   const std::vector<Case> cases = {
       {{},
        "a subcommand was expected: collect, watch, check, diff, schema, replay, init, classes, "
-       "help or version"},
+       "completion, help or version"},
       {{"gather"}, "there is no subcommand 'gather'"},
       {{""}, "there is no subcommand ''"},
       {{"colect", "--server", "s"}, "there is no subcommand 'colect', did you mean 'collect'?"},
@@ -228,7 +228,7 @@ TEST(CommandLine, RefusesWhatItDoesNotKnow) {
       {{"--class", ""}, "--class: there is no class '', " + known},
       {{"--class="}, "--class: there is no class '', " + known},
       {{"--demo", "x"},
-       "--demo: there is no built-in server 'x', expected one of demo-orlo, demo-tavit"},
+       "--demo: there is no built-in server 'x', expected demo-orlo or demo-tavit"},
       {{"--format", "xml"},
        "--format: there is no format 'xml', expected " + report::FormatNames()},
       {{"--log-level", "5"}, "--log-level: '5' is no level, expected 0 to 4"},

@@ -24,14 +24,21 @@ inline std::ostream& operator<<(std::ostream& stream, const ToolEnd& end) {
   return stream << "status " << end.status << "\n" << end.text;
 }
 
-inline std::string InShellQuotes(const std::string& word) { return "'" + word + "'"; }
+inline std::string InShellQuotes(const std::string& word) {
+  std::string quoted = "'";
+  for (const char character : word) {
+    quoted += character == '\'' ? R"('\'')" : std::string(1, character);
+  }
+  return quoted + '\'';
+}
 
-// The arguments are words of the shell's.
-inline ToolEnd RunTool(const Tool& tool, const std::string& arguments) {
+// The arguments are words of the shell's, and so are assignments for its environment.
+inline ToolEnd RunTool(const Tool& tool, const std::string& arguments,
+                       const std::string& environment = "") {
   if (tool.path.empty() || tool.path.ends_with("-NOTFOUND")) {
     return {-1, "not installed: " + tool.package + " (scripts/install-packages tests)"};
   }
-  const std::string line = InShellQuotes(tool.path) + ' ' + arguments + " 2>&1";
+  const std::string line = environment + ' ' + InShellQuotes(tool.path) + ' ' + arguments + " 2>&1";
   std::FILE* const pipe = ::popen(line.c_str(), "r");
   if (pipe == nullptr) return {-1, "it cannot be started: " + line};
   ToolEnd end;
