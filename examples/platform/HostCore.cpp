@@ -4,11 +4,11 @@
 #include "plugin/host/TOSSpecific.h"
 #include "plugin/host/TRootObject.h"
 #include "plugin/host/TZEVStatusCode.h"
-#include "tests/embedding/Platform.h"
 
 #include <boost/assert.hpp>
 #include <boost/make_shared.hpp>
 #include <cstdio>
+#include <example/Platform.h>
 #include <stdexcept>
 
 // Handles that are empty where they must not be end here.

@@ -1,12 +1,20 @@
-// A whole host: host MODULE prints the computer systems of the module's server.
+// A whole host: host MODULE [LIBRARY...] prints the computer systems of the
+// module's server. Each LIBRARY offers its names before those that the module is
+// linked against.
 #include "plugin/frame/ModuleEntry.h"
-#include "tests/embedding/Platform.h"
 
 #include <cstdio>
 #include <dlfcn.h>
+#include <example/Platform.h>
 
 int main(int argc, char** argv) {
-  void* const module = argc == 2 ? dlopen(argv[1], RTLD_NOW | RTLD_LOCAL) : nullptr;
+  for (int i = 2; i < argc; ++i) {
+    if (dlopen(argv[i], RTLD_NOW | RTLD_GLOBAL) == nullptr) {
+      std::fprintf(stderr, "host: no library: %s\n", dlerror());
+      return 1;
+    }
+  }
+  void* const module = argc >= 2 ? dlopen(argv[1], RTLD_NOW | RTLD_LOCAL) : nullptr;
   void* const symbol = module != nullptr ? dlsym(module, "StrakeModuleEntry") : nullptr;
   if (symbol == nullptr) {
     const char* const reason = dlerror();

@@ -1,8 +1,8 @@
 // The smallest plug-in manager library.
 #include "plugin/host/TRootObject.h"
-#include "tests/embedding/Platform.h"
 
 #include <boost/make_shared.hpp>
+#include <example/Platform.h>
 
 namespace {
 
