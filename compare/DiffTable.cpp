@@ -112,8 +112,7 @@ void WriteDiffTable(const DiffReport& diff, const report::Sink& sink) {
   sink(Describe(diff.after).append("\n\n"));
   for (const Difference& one : diff.differences) {
     std::string out = SignOf(one);
-    out.append(TitleOf(one.before == nullptr ? *one.after : *one.before))
-        .append("\n");
+    out.append(TitleOf(one.before == nullptr ? *one.after : *one.before)).append("\n");
     AppendRows(out, RowsOf(one));
     sink(out);
   }
