@@ -16,8 +16,8 @@ namespace strake::app {
 
 // Servers that are collected in a process each.
 struct ManyServers {
-  std::vector<std::filesystem::path> servers;  // "-": standard input; empty: not so many
-  std::size_t jobs = 1;                        // so many processes at once
+  std::vector<std::filesystem::path> servers;        // "-": standard input; empty: not so many
+  std::size_t jobs = 1;                              // so many processes at once
   std::optional<std::chrono::milliseconds> timeout;  // of one, from its start
   std::vector<std::string> words;                    // that each process is given
 };

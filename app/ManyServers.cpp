@@ -84,8 +84,8 @@ class Collection {
   }
 
   void Note(int status) {
-    fStatus = fStatus == kExitFailed || status == kExitFailed ? kExitFailed
-                                                              : std::max(fStatus, status);
+    fStatus =
+        fStatus == kExitFailed || status == kExitFailed ? kExitFailed : std::max(fStatus, status);
   }
 
   report::Sink fSink;

@@ -58,7 +58,8 @@ void RefuseWhatIsForOneServer(const Subcommand& command, const CollectOptions& o
     }
   }
   if (options.limits == kStandardInput) {
-    command.Refuse("--limits: expected a file that can be read for each server, got standard input");
+    command.Refuse(
+        "--limits: expected a file that can be read for each server, got standard input");
   }
   if (std::ranges::count(options.many.servers, kStandardInput) > 1) {
     command.Refuse("--server: two of them are standard input");
@@ -68,15 +69,14 @@ void RefuseWhatIsForOneServer(const Subcommand& command, const CollectOptions& o
 }  // namespace
 
 void AddManyServers(Subcommand& app, CollectOptions& options) {
-  app.AddValue("--jobs", "N",
-               "So many servers at once, with --format jsonl; default: one for each core",
-               [&options](const std::string& value) {
-                 options.many.jobs = ParseJobs(value).value_or(1);
-               })
+  app.AddValue(
+         "--jobs", "N", "So many servers at once, with --format jsonl; default: one for each core",
+         [&options](const std::string& value) { options.many.jobs = ParseJobs(value).value_or(1); })
       .Check(RefuseJobs);
-  app.AddValue("--timeout", "DURATION",
-               "At most so long for each server, with --format jsonl; default: as long as it takes",
-               [&options](const std::string& value) { options.many.timeout = ParseDuration(value); })
+  app.AddValue(
+         "--timeout", "DURATION",
+         "At most so long for each server, with --format jsonl; default: as long as it takes",
+         [&options](const std::string& value) { options.many.timeout = ParseDuration(value); })
       .Check(RefuseDuration);
 }
 

@@ -126,12 +126,11 @@ void AddInput(Subcommand& app, CollectOptions& options) {
 
 void AddInputs(Subcommand& app, CollectOptions& options) {
   const Option servers =
-      app.AddValue("--server", "FILE",
-                   "The server description (*.server.json); several (repeatable) with --format "
-                   "jsonl, each collected in a process of its own",
-                   [&options](const std::string& value) {
-                     options.many.servers.emplace_back(value);
-                   })
+      app.AddValue(
+             "--server", "FILE",
+             "The server description (*.server.json); several (repeatable) with --format "
+             "jsonl, each collected in a process of its own",
+             [&options](const std::string& value) { options.many.servers.emplace_back(value); })
           .Check(RefuseEmptyName)
           .Repeatable();
   AddDemoAndPlugin(app, options, servers);

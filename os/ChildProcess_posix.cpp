@@ -1,5 +1,4 @@
 #include "os/ChildProcess.h"
-
 #include "os/Descriptor_posix.h"
 #include "os/Signals.h"
 #include "os/StartedProcess_posix.h"

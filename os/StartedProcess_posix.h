@@ -18,8 +18,8 @@ struct StartedProcess {
 };
 
 // It has the standard input of this process or an empty one, none of the
-// descriptors that this process opened, and no handler of a signal. Linux ends it with the thread that started
-// it. A signal that arrives meanwhile reaches this process afterwards. Throws
+// descriptors that this process opened, and no handler of a signal. Linux ends it with the thread
+// that started it. A signal that arrives meanwhile reaches this process afterwards. Throws
 // std::system_error.
 StartedProcess Start(const std::filesystem::path& program, const std::vector<std::string>& words,
                      bool hasInput);

@@ -121,9 +121,8 @@ void Write(const Report& report, const Spacing& spacing, const Sink& sink) {
   }
   object.Array("findings", report.Findings(),
                [](const Finding& one) { return Line(FindingOf(one)); });
-  object.Array("instances", report.Instances(), [&report](const cim::StoredInstance& one) {
-    return InstanceLine(one, report);
-  });
+  object.Array("instances", report.Instances(),
+               [&report](const cim::StoredInstance& one) { return InstanceLine(one, report); });
   object.End();
 }
 

@@ -72,14 +72,15 @@ TEST(JsonReport, OnOneLineIsTheSameObject) {
   const std::vector<cim::StoredInstance> instances = {
       Sensor(2, "Fan", -3, 65, -2),
       Instance("VELKSG_SP_ComputerSystem", {{"SourceNode", Node(255)}})};
-  EXPECT_EQ(Written(report::WriteJsonLine, ReportOf(instances)),
-            R"({"format":"strake-report/1","strake":"1.2.3","collected_at":"2024-03-18T09:41:07Z",)"
-            R"("server":{"name":"rack7","description":"","kind":"orlo"},"findings":[],"instances":[)"
-            R"({"class":"VELKSG_SP_NumericSensor","properties":{"CreationClassName":)"
-            R"("VELKSG_SP_NumericSensor","SourceNode":2,"DeviceID":"Fan-Node2","SensorDescription":)"
-            R"("Fan","CurrentReading":-3,"BaseUnits":65,"UnitModifier":-2},"reading":-0.03,)"
-            R"("unit":"%"},{"class":"VELKSG_SP_ComputerSystem","properties":{"SourceNode":255}}]})"
-            "\n");
+  EXPECT_EQ(
+      Written(report::WriteJsonLine, ReportOf(instances)),
+      R"({"format":"strake-report/1","strake":"1.2.3","collected_at":"2024-03-18T09:41:07Z",)"
+      R"("server":{"name":"rack7","description":"","kind":"orlo"},"findings":[],"instances":[)"
+      R"({"class":"VELKSG_SP_NumericSensor","properties":{"CreationClassName":)"
+      R"("VELKSG_SP_NumericSensor","SourceNode":2,"DeviceID":"Fan-Node2","SensorDescription":)"
+      R"("Fan","CurrentReading":-3,"BaseUnits":65,"UnitModifier":-2},"reading":-0.03,)"
+      R"("unit":"%"},{"class":"VELKSG_SP_ComputerSystem","properties":{"SourceNode":255}}]})"
+      "\n");
   for (const std::string& text : HostileTexts()) {
     report::CollectionFacts facts = SomeFacts();
     facts.server = {text, text, text};
