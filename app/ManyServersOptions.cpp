@@ -36,7 +36,7 @@ std::size_t DefaultJobs() {
 
 // Which of them makes it a collection in processes of their own; empty: none.
 std::string Reason(const Subcommand& command, const CollectOptions& options) {
-  for (const std::string option : {"--jobs", "--timeout"}) {
+  for (const char* const option : {"--jobs", "--timeout"}) {
     if (command.HasOption(option)) {
       return option;
     }
@@ -52,9 +52,10 @@ void RefuseWhatIsForOneServer(const Subcommand& command, const CollectOptions& o
   if (options.format->name != kFormat) {
     command.Refuse(reason + ": expected --format " + std::string(kFormat));
   }
-  for (const std::string option : {"--trace", "--log"}) {
+  for (const char* const option : {"--trace", "--log"}) {
     if (command.HasOption(option)) {
-      command.Refuse(option + ": a file for one server, not to be had with " + reason);
+      std::string refusal = option;
+      command.Refuse(refusal.append(": a file for one server, not to be had with ").append(reason));
     }
   }
   if (options.limits == kStandardInput) {

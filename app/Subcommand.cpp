@@ -74,7 +74,10 @@ std::vector<std::string> Subcommand::GivenWords(std::span<const std::string_view
     }
     const bool isFlag = option->get_items_expected_max() == 0;
     for (const std::string& value : option->results()) {
-      words.push_back(isFlag ? name : name + '=' + value);
+      std::string& word = words.emplace_back(name);
+      if (!isFlag) {
+        word.append("=").append(value);
+      }
     }
   }
   return words;
