@@ -1,5 +1,6 @@
 // The options of `strake collect`.
 #include "app/ClassNames.h"
+#include "app/ManyServersOptions.h"
 #include "app/QueryOptions.h"
 #include "app/QueryPlan.h"
 #include "app/Subcommands.h"
@@ -22,9 +23,11 @@ Examples:
   strake collect --query VELKSG_SP_ComputerSystem,VELKSG_SP_NumericSensor --query ""
   strake collect --server rack7.server.json --format json --output report.json
   strake collect --log run.log --trace run.trace
+  strake collect --server a.server.json --server b.server.json --format jsonl --timeout 30s
 
-Exit status: 0 the queries ran, 1 the run failed, 2 wrong usage or a refused input,
-3 with --fail-on: there is a finding of that severity or above.
+Exit status: 0 the queries ran, 1 the run failed, of several servers one of them,
+2 wrong usage or a refused input, 3 with --fail-on: there is a finding of that
+severity or above.
 Traces and logs hold what the service processors said, passwords included; they
 are created with mode 0600.)";
 
@@ -77,7 +80,8 @@ void RefuseLayoutOfOtherFormats(const Subcommand& command, const CollectOptions&
 
 Subcommand AddCollect(CLI::App& app, CollectOptions& options) {
   Subcommand command(app, "collect", "Query the plug-in, print a report", kCollectExamples);
-  AddInput(command, options);
+  AddInputs(command, options);
+  AddManyServers(command, options);
   AddQueries(command, options);
   AddSelection(command, options);
   AddFailOn(command, options);
@@ -90,8 +94,9 @@ Subcommand AddCollect(CLI::App& app, CollectOptions& options) {
 }
 
 void CompleteCollect(const Subcommand& command, CollectOptions& options) {
-  CompleteQueries(command, options);
   ChooseFormat(command, options);
+  CompleteManyServers(command, options);
+  CompleteQueries(command, options);
   RefuseLayoutOfOtherFormats(command, options);
   if (options.format->classes == report::Classes::ExactlyOne &&
       ClassesOf(QueriesOf(options)).size() != 1) {

@@ -5,6 +5,8 @@
 #include "report/Formats.h"
 #include "report/Selection.h"
 
+#include <chrono>
+#include <cstddef>
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -12,8 +14,17 @@
 
 namespace strake::app {
 
+// Servers that are collected in a process each.
+struct ManyServers {
+  std::vector<std::filesystem::path> servers;        // "-": standard input; empty: not so many
+  std::size_t jobs = 1;                              // so many processes at once
+  std::optional<std::chrono::milliseconds> timeout;  // of one, from its start
+  std::vector<std::string> words;                    // that each process is given
+};
+
 struct CollectOptions {
   std::optional<std::filesystem::path> server;  // "-": standard input; none: the server `demo`
+  ManyServers many;                             // instead of the server
   std::string demo = "demo-orlo";
   std::vector<std::string> classes;  // known ones; empty: all eight
   std::vector<std::string> queries;  // class lists; not empty: they replace the classes

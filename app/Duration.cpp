@@ -38,6 +38,14 @@ std::optional<milliseconds> ParseDuration(std::string_view text) {
   return duration <= kLongestDuration ? std::optional(duration) : std::nullopt;
 }
 
+std::string DurationText(milliseconds duration) {
+  const Unit* unit = kUnits.data();
+  for (const Unit& one : kUnits) {
+    unit = duration % one.length == milliseconds(0) ? &one : unit;
+  }
+  return std::to_string(duration / unit->length).append(unit->name);
+}
+
 std::string RefuseDuration(const std::string& text) {
   return ParseDuration(text)
              ? ""

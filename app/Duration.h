@@ -14,6 +14,9 @@ inline constexpr std::chrono::hours kLongestDuration{24};
 // anything else.
 std::optional<std::chrono::milliseconds> ParseDuration(std::string_view text);
 
+// As it is written, in the largest unit that holds it.
+std::string DurationText(std::chrono::milliseconds duration);
+
 // What is wrong with it; empty when it is fine.
 std::string RefuseDuration(const std::string& text);
 

@@ -8,7 +8,7 @@
 namespace strake::app {
 
 void TellError(std::string_view text) {
-  os::WriteStandardError("strake: " + text::EscapeForPeople(text) + "\n");
+  os::WriteStandardError(std::string(kMessagePrefix) + text::EscapeForPeople(text) + "\n");
 }
 
 void TellWarning(std::string_view text) { TellError("warning: " + std::string(text)); }

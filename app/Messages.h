@@ -7,6 +7,8 @@
 
 namespace strake::app {
 
+inline constexpr std::string_view kMessagePrefix = "strake: ";
+
 // "strake: TEXT" and "strake: warning: TEXT", on one line whatever the text holds.
 void TellError(std::string_view text);
 void TellWarning(std::string_view text);

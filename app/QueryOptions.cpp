@@ -98,11 +98,7 @@ void RefuseFiltersOfSecrets(const Subcommand& command, const CollectOptions& opt
   }
 }
 
-}  // namespace
-
-void AddInput(Subcommand& app, CollectOptions& options) {
-  const Option server =
-      app.AddFile("--server", "The server description (*.server.json)", options.server);
+void AddDemoAndPlugin(Subcommand& app, CollectOptions& options, const Option& server) {
   app.AddValue("--demo", "NAME",
                "A built-in demonstration server: " + BuiltInServerNames() + "; default: demo-orlo",
                [&options](const std::string& value) { options.demo = value; })
@@ -110,6 +106,26 @@ void AddInput(Subcommand& app, CollectOptions& options) {
       .Excludes(server);
   app.AddFile("--plugin", "The plug-in module; default: strake.so near the command",
               options.plugin);
+}
+
+}  // namespace
+
+void AddInput(Subcommand& app, CollectOptions& options) {
+  const Option server =
+      app.AddFile("--server", "The server description (*.server.json)", options.server);
+  AddDemoAndPlugin(app, options, server);
+}
+
+void AddInputs(Subcommand& app, CollectOptions& options) {
+  const Option servers =
+      app.AddValue(
+             "--server", "FILE",
+             "The server description (*.server.json); several (repeatable) with --format "
+             "jsonl, each collected in a process of its own",
+             [&options](const std::string& value) { options.many.servers.emplace_back(value); })
+          .NamesFile()
+          .Repeatable();
+  AddDemoAndPlugin(app, options, servers);
 }
 
 void AddQueries(Subcommand& app, CollectOptions& options) {

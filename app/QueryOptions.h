@@ -8,6 +8,8 @@ namespace strake::app {
 
 // The server and the module.
 void AddInput(Subcommand& app, CollectOptions& options);
+// The same with any number of servers.
+void AddInputs(Subcommand& app, CollectOptions& options);
 // What is asked for.
 void AddQueries(Subcommand& app, CollectOptions& options);
 // What of it is reported, and how it is judged.

@@ -22,12 +22,16 @@ Server Named(const std::string& name, platform::ServerDescription description) {
 
 }  // namespace
 
+std::string ServerName(const std::filesystem::path& file) {
+  return file == kStandardInput ? InputName(file) : file.filename().string();
+}
+
 Server ReadServer(const std::filesystem::path& file) {
-  const bool isStandardInput = file == kStandardInput;
   const std::string name = InputName(file);
   try {
-    return isStandardInput ? Named(name, platform::ReadServerDescription(stdin, name))
-                           : Named(file.filename().string(), platform::ReadServerDescription(file));
+    return Named(ServerName(file), file == kStandardInput
+                                       ? platform::ReadServerDescription(stdin, name)
+                                       : platform::ReadServerDescription(file));
   } catch (const std::bad_alloc&) {
     throw RunError(name + ": there is not enough memory to read it");
   }

@@ -14,6 +14,9 @@ struct Server {
   platform::ServerDescription description;
 };
 
+// What the reports call a server that a file describes.
+std::string ServerName(const std::filesystem::path& file);
+
 // Both throw text::InputError, and RunError when there is not enough
 // memory.
 Server ReadServer(const std::filesystem::path& file);

@@ -78,6 +78,9 @@ bool GoesToStandardOutput(const ReplayOptions& options) { return IsStandardOutpu
 void RefuseSharedFiles(const CollectOptions& options) {
   std::vector<NamedFile> taken;
   AddInput(taken, "--server", options.server);
+  for (const std::filesystem::path& server : options.many.servers) {
+    AddInput(taken, "--server", server);
+  }
   AddInput(taken, "--limits", options.limits);
   AddInput(taken, "--plugin", options.plugin);
   std::vector<NamedFile> outputs;

@@ -140,6 +140,24 @@ bool Subcommand::IsGiven() const { return fCommand->parsed(); }
 
 bool Subcommand::HasOption(const std::string& name) const { return fCommand->count(name) != 0; }
 
+std::vector<std::string> Subcommand::GivenWords(std::span<const std::string_view> but) const {
+  std::vector<std::string> words;
+  for (const CLI::Option* const option : fCommand->get_options()) {
+    const std::string name = option->get_name();
+    if (std::ranges::find(but, name) != but.end()) {
+      continue;
+    }
+    const bool isFlag = option->get_items_expected_max() == 0;
+    for (const std::string& value : option->results()) {
+      std::string& word = words.emplace_back(name);
+      if (!isFlag) {
+        word.append("=").append(value);
+      }
+    }
+  }
+  return words;
+}
+
 void Subcommand::Refuse(const std::string& text) const {
   throw UsageError(text + " (see strake " + fCommand->get_name() + " --help)");
 }

@@ -7,7 +7,9 @@
 #include <filesystem>
 #include <functional>
 #include <optional>
+#include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace CLI {  // NOLINT(readability-identifier-naming): the library's
@@ -70,6 +72,8 @@ class Subcommand {
   // When the words were taken.
   [[nodiscard]] bool IsGiven() const;
   [[nodiscard]] bool HasOption(const std::string& name) const;
+  // The options that were given, as "--name=value" and "--name", but for these.
+  [[nodiscard]] std::vector<std::string> GivenWords(std::span<const std::string_view> but) const;
 
   // Throws UsageError: this, and where to read more.
   [[noreturn]] void Refuse(const std::string& text) const;

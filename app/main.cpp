@@ -5,6 +5,7 @@
 #include "app/Diff.h"
 #include "app/Errors.h"
 #include "app/Init.h"
+#include "app/ManyServers.h"
 #include "app/Messages.h"
 #include "app/Replay.h"
 #include "app/Schema.h"
@@ -23,7 +24,9 @@ namespace strake::app {
 namespace {
 
 struct Runner {
-  int operator()(const CollectOptions& options) const { return Collect(options); }
+  int operator()(const CollectOptions& options) const {
+    return options.many.servers.empty() ? Collect(options) : CollectMany(options);
+  }
   int operator()(const WatchOptions& options) const { return Watch(options); }
   int operator()(const CheckOptions& options) const { return Check(options); }
   int operator()(const DiffOptions& options) const { return Diff(options); }

@@ -2,8 +2,8 @@
 
 namespace strake::os {
 
-std::filesystem::path CommandFolder() {
-  return std::filesystem::read_symlink("/proc/self/exe").parent_path();
-}
+std::filesystem::path CommandFile() { return std::filesystem::read_symlink("/proc/self/exe"); }
+
+std::filesystem::path CommandFolder() { return CommandFile().parent_path(); }
 
 }  // namespace strake::os

@@ -18,6 +18,7 @@ constexpr Format kFormats[] = {
     {"table", ".txt", "text/plain; charset=utf-8", WriteTable, FindingsGo::InReport, Classes::Any,
      Laid::OutForPeople},
     {"json", ".json", "application/json", WriteJson, FindingsGo::InReport},
+    {"jsonl", ".jsonl", "application/jsonl", WriteJsonLine, FindingsGo::InReport},
     {"csv", ".csv", "text/csv; charset=utf-8", WriteCsv, FindingsGo::ToStandardError,
      Classes::ExactlyOne},
     {"html", ".html", "text/html; charset=utf-8", WriteHtml, FindingsGo::InReport},

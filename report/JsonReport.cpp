@@ -65,36 +65,88 @@ std::string InstanceLine(const cim::StoredInstance& instance, const Report& repo
   return line + '}';
 }
 
-// An array, an element a line.
-template <typename Elements, typename LineOf>
-void WriteArray(std::string_view key, const Elements& elements, const LineOf& lineOf,
-                const Sink& sink) {
-  sink("  \"" + std::string(key) + "\": [");
-  const char* separator = "\n    ";
-  for (const auto& element : elements) {
-    sink(separator + lineOf(element));
-    separator = ",\n    ";
+// What stands between the parts of the object.
+struct Spacing {
+  std::string_view member;   // before each of the report's
+  std::string_view value;    // before its value
+  std::string_view element;  // before each of an array's
+  std::string_view end;      // before the last bracket
+};
+
+constexpr Spacing kOneValueALine{"\n  ", " ", "\n    ", "\n"};
+constexpr Spacing kOneLine{};
+
+// Writes the report's object, member by member.
+class ObjectWriter {
+ public:
+  ObjectWriter(const Spacing& spacing, const Sink& sink) : fSpacing(spacing), fSink(sink) {}
+
+  void Key(std::string_view key) {
+    std::string text(fSeparator);
+    text.append(fSpacing.member).append("\"").append(key).append("\":").append(fSpacing.value);
+    fSink(text);
+    fSeparator = ",";
   }
-  sink(elements.empty() ? "]" : "\n  ]");
+
+  void Member(std::string_view key, const Json& value) {
+    Key(key);
+    fSink(Line(value));
+  }
+
+  template <typename Elements, typename LineOf>
+  void Array(std::string_view key, const Elements& elements, const LineOf& lineOf) {
+    Key(key);
+    char separator = '[';
+    for (const auto& element : elements) {
+      fSink(std::string(1, separator).append(fSpacing.element).append(lineOf(element)));
+      separator = ',';
+    }
+    fSink(elements.empty() ? "[]" : std::string(fSpacing.member).append("]"));
+  }
+
+  void End() { fSink(std::string(fSpacing.end).append("}\n")); }
+
+ private:
+  const Spacing& fSpacing;
+  const Sink& fSink;
+  std::string_view fSeparator = "{";
+};
+
+// No more than one of the instances is JSON at a time: there can be 140,000.
+void Write(const Report& report, const Spacing& spacing, const Sink& sink) {
+  ObjectWriter object(spacing, sink);
+  const Json head = HeadOf(report.Facts());
+  for (const auto& [key, value] : head.items()) {
+    object.Member(key, value);
+  }
+  object.Array("findings", report.Findings(),
+               [](const Finding& one) { return Line(FindingOf(one)); });
+  object.Array("instances", report.Instances(),
+               [&report](const cim::StoredInstance& one) { return InstanceLine(one, report); });
+  object.End();
 }
 
 }  // namespace
 
-// One value a line, and no more than one of the instances as JSON at a time:
-// there can be 140,000.
 void WriteJson(const Report& report, const Layout& /*layout*/, const Sink& sink) {
-  const Json head = HeadOf(report.Facts());
-  sink("{\n");
-  for (const auto& [key, value] : head.items()) {
-    sink("  " + Line(key) + ": " + Line(value) + ",\n");
-  }
-  WriteArray(
-      "findings", report.Findings(), [](const Finding& one) { return Line(FindingOf(one)); }, sink);
-  sink(",\n");
-  WriteArray(
-      "instances", report.Instances(),
-      [&report](const cim::StoredInstance& one) { return InstanceLine(one, report); }, sink);
-  sink("\n}\n");
+  Write(report, kOneValueALine, sink);
+}
+
+void WriteJsonLine(const Report& report, const Layout& /*layout*/, const Sink& sink) {
+  Write(report, kOneLine, sink);
+}
+
+std::string JsonFailureLine(const Failure& failure) {
+  return Line({{"format", "strake-error/1"},
+               {"strake", failure.version},
+               {"server", {{"name", text::ToValidUtf8(failure.server)}}},
+               {"error", text::ToValidUtf8(failure.text)}}) +
+         '\n';
+}
+
+bool IsJsonReportLine(std::string_view text) {
+  return text.starts_with(R"({"format":"strake-report/1",)") &&
+         text.find('\n') == text.size() - 1 && Json::accept(text);
 }
 
 }  // namespace strake::report

@@ -3,6 +3,9 @@
 
 #include "report/Writer.h"
 
+#include <string>
+#include <string_view>
+
 namespace strake::report {
 
 // One JSON object, {"format":"strake-report/1","strake":VERSION,
@@ -17,5 +20,22 @@ namespace strake::report {
 // one) and, where limits were given and there is a reading, "state". Controls and
 // characters that turn the writing direction stand as \uXXXX.
 void WriteJson(const Report& report, const Layout& layout, const Sink& sink);
+
+// The same object on one line.
+void WriteJsonLine(const Report& report, const Layout& layout, const Sink& sink);
+
+// Why there is no report of a server.
+struct Failure {
+  std::string server;  // its name
+  std::string version;
+  std::string text;
+};
+
+// What stands for the report among the lines of others, with the line's end:
+// {"format":"strake-error/1","strake":VERSION,"server":{"name":NAME},"error":TEXT}.
+std::string JsonFailureLine(const Failure& failure);
+
+// Whether it is one report as WriteJsonLine writes it, and nothing else.
+bool IsJsonReportLine(std::string_view text);
 
 }  // namespace strake::report

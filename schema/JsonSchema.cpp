@@ -140,7 +140,9 @@ Json ReportMembers() {
 std::string JsonSchema() {
   Json schema{{"$schema", "https://json-schema.org/draft/2020-12/schema"},
               {"title", "strake-report/1"},
-              {"description", "What strake collect --format json writes. Keys may be added."}};
+              {"description",
+               "What strake collect --format json writes, and jsonl on each line but those "
+               "of strake-error/1. Keys may be added."}};
   schema.update(Object(ReportMembers(),
                        {"format", "strake", "collected_at", "server", "findings", "instances"}));
   for (const cim::SchemaClass& one : cim::SchemaClasses()) {

@@ -167,6 +167,11 @@ Command& Command::AddressSpace(unsigned long bytes) {
   return *this;
 }
 
+Command& Command::Descriptors(unsigned long count) {
+  fDescriptors = count;
+  return *this;
+}
+
 void Command::Become(int out, int err) const {
   if (fOrdinaryUser && ::geteuid() == 0) {
     for (const int privilege : {CAP_DAC_OVERRIDE, CAP_DAC_READ_SEARCH}) {
@@ -202,9 +207,12 @@ void Command::Become(int out, int err) const {
     environment.push_back(variable.data());
   }
   environment.push_back(nullptr);
-  if (fAddressSpace != 0) {
-    const rlimit limit{fAddressSpace, fAddressSpace};
-    ::setrlimit(RLIMIT_AS, &limit);
+  for (const auto& [resource, most] :
+       {std::pair(RLIMIT_AS, fAddressSpace), {RLIMIT_NOFILE, fDescriptors}}) {
+    if (most != 0) {
+      const rlimit limit{most, most};
+      ::setrlimit(resource, &limit);
+    }
   }
   ::execve(arguments.front(), arguments.data(), environment.data());
   ::_exit(127);
@@ -234,6 +242,10 @@ Outcome Command::RunOnTerminal() const {
 }
 
 Outcome Command::RunUntil(const std::string& errors, int signal) const {
+  return RunUntil(errors, [signal](pid_t process) { ::kill(process, signal); });
+}
+
+Outcome Command::RunUntil(const std::string& errors, const std::function<void(pid_t)>& act) const {
   const Capture out;
   int ends[2]{};
   if (::pipe2(ends, O_CLOEXEC) != 0) {
@@ -242,12 +254,12 @@ Outcome Command::RunUntil(const std::string& errors, int signal) const {
   const pid_t process = Start(out.Descriptor(), ends[1]);
   ::close(ends[1]);
   std::string text;
-  bool isSent = false;
+  bool isDone = false;
   for (char byte = 0; ::read(ends[0], &byte, 1) == 1;) {
     text += byte;
-    if (!isSent && text.ends_with(errors)) {
-      ::kill(process, signal);
-      isSent = true;
+    if (!isDone && text.ends_with(errors)) {
+      act(process);
+      isDone = true;
     }
   }
   ::close(ends[0]);
@@ -273,5 +285,6 @@ Outcome CollectHostile(std::vector<std::string> words) {
 
 std::string HostileModule() { return BuildFolder() + "/test-modules/hostile.so"; }
 std::string RefusingModule() { return BuildFolder() + "/test-modules/refusing.so"; }
+std::string ErraticModule() { return BuildFolder() + "/test-modules/erratic.so"; }
 
 }  // namespace strake::tests

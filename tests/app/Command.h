@@ -1,6 +1,7 @@
 // Runs the built command as a process.
 #pragma once
 
+#include <functional>
 #include <iosfwd>
 #include <string>
 #include <sys/types.h>
@@ -39,12 +40,17 @@ class Command {
   Command& AsOrdinaryUser();
   // The most memory that it may map.
   Command& AddressSpace(unsigned long bytes);
+  // So many that it may have open.
+  Command& Descriptors(unsigned long count);
 
   [[nodiscard]] Outcome Run() const;
   // As on a terminal.
   [[nodiscard]] Outcome RunOnTerminal() const;
   // Sends the signal when standard error has said so much.
   [[nodiscard]] Outcome RunUntil(const std::string& errors, int signal) const;
+  // Does something to the process then.
+  [[nodiscard]] Outcome RunUntil(const std::string& errors,
+                                 const std::function<void(pid_t)>& act) const;
   // Standard error alone is a terminal.
   [[nodiscard]] Outcome RunWithErrorsOnTerminal() const;
 
@@ -67,7 +73,9 @@ class Command {
   std::vector<int> fIgnored;
   mode_t fMask = 022;
   bool fOrdinaryUser = false;
-  unsigned long fAddressSpace = 0;  // 0: as much as there is
+  // 0: as much as there is
+  unsigned long fAddressSpace = 0;
+  unsigned long fDescriptors = 0;
 };
 
 Outcome Strake(const std::vector<std::string>& words);
@@ -76,5 +84,6 @@ Outcome CollectHostile(std::vector<std::string> words);
 
 std::string HostileModule();
 std::string RefusingModule();
+std::string ErraticModule();
 
 }  // namespace strake::tests

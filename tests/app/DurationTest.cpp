@@ -15,6 +15,13 @@ TEST(Duration, IsAWholeNumberAndAUnit) {
   EXPECT_EQ(milliseconds(86'400'000), app::ParseDuration("24h"));
 }
 
+TEST(Duration, IsWrittenInTheLargestUnitThatHoldsIt) {
+  for (const char* const text : {"1ms", "1500ms", "1s", "90s", "2m", "1439m", "1h", "24h"}) {
+    EXPECT_EQ(text, app::DurationText(*app::ParseDuration(text)));
+  }
+  EXPECT_EQ("2m", app::DurationText(milliseconds(120'000)));
+}
+
 TEST(Duration, IsNothingElse) {
   for (const char* const text :
        {"", "s", "10", "0s", "-1s", "+1s", "1.5s", " 1s", "1 s", "1s ", "1S", "1d", "25h", "1441m",

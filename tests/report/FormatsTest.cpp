@@ -19,6 +19,7 @@ TEST(Formats, AreThese) {
   } expected[] = {
       {"table", ".txt", "text/plain; charset=utf-8"},
       {"json", ".json", "application/json"},
+      {"jsonl", ".jsonl", "application/jsonl"},
       {"csv", ".csv", "text/csv; charset=utf-8", report::Classes::ExactlyOne},
       {"html", ".html", "text/html; charset=utf-8"},
       {"mof", ".mof", "text/plain; charset=utf-8"},
@@ -32,7 +33,7 @@ TEST(Formats, AreThese) {
     EXPECT_EQ(format.mediaType, expected[i].mediaType);
     EXPECT_EQ(format.classes, expected[i].classes);
   }
-  EXPECT_EQ(report::FormatNames(), "table, json, csv, html, mof or cimxml");
+  EXPECT_EQ(report::FormatNames(), "table, json, jsonl, csv, html, mof or cimxml");
 }
 
 TEST(Formats, AreFoundByTheirNamesAndEndingsAndNoOthers) {
@@ -52,7 +53,7 @@ TEST(Formats, AreFoundByTheirNamesAndEndingsAndNoOthers) {
   for (const char* const unknown : {"", "Table", "xml", "json ", "jso"}) {
     EXPECT_EQ(report::FindFormat(unknown), nullptr) << unknown;
   }
-  for (const char* const unknown : {"", "json", "a.jsonl", "a.json/b", "/dev/null"}) {
+  for (const char* const unknown : {"", "json", "a.jsonx", "a.json/b", "/dev/null"}) {
     EXPECT_EQ(report::FindFormatOfFile(unknown), nullptr) << unknown;
   }
 }

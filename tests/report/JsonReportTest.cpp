@@ -68,6 +68,47 @@ TEST(JsonReport, WritesTextAsValidJsonAndBytesThatAreNoUtf8AsHexadecimal) {
                     "\"SystemContact\":\"\xC3\xA9\\\\xFF\\\\xC3\"}}\n  "));
 }
 
+TEST(JsonReport, OnOneLineIsTheSameObject) {
+  const std::vector<cim::StoredInstance> instances = {
+      Sensor(2, "Fan", -3, 65, -2),
+      Instance("VELKSG_SP_ComputerSystem", {{"SourceNode", Node(255)}})};
+  EXPECT_EQ(
+      Written(report::WriteJsonLine, ReportOf(instances)),
+      R"({"format":"strake-report/1","strake":"1.2.3","collected_at":"2024-03-18T09:41:07Z",)"
+      R"("server":{"name":"rack7","description":"","kind":"orlo"},"findings":[],"instances":[)"
+      R"({"class":"VELKSG_SP_NumericSensor","properties":{"CreationClassName":)"
+      R"("VELKSG_SP_NumericSensor","SourceNode":2,"DeviceID":"Fan-Node2","SensorDescription":)"
+      R"("Fan","CurrentReading":-3,"BaseUnits":65,"UnitModifier":-2},"reading":-0.03,)"
+      R"("unit":"%"},{"class":"VELKSG_SP_ComputerSystem","properties":{"SourceNode":255}}]})"
+      "\n");
+  for (const std::string& text : HostileTexts()) {
+    report::CollectionFacts facts = SomeFacts();
+    facts.server = {text, text, text};
+    const auto report = ReportOf(OneOfEachClass(text), facts);
+    const std::string line = Written(report::WriteJsonLine, report);
+    EXPECT_TRUE(report::IsJsonReportLine(line)) << line;
+    EXPECT_EQ(ordered_json::parse(line), ordered_json::parse(JsonOf(report)));
+  }
+}
+
+TEST(JsonReport, OnOneLineIsNothingElse) {
+  const std::string line = Written(report::WriteJsonLine, ReportOf({}));
+  EXPECT_TRUE(report::IsJsonReportLine(line));
+  const std::string cut = line.substr(0, line.size() - 1);
+  for (const std::string& other :
+       {std::string(), std::string("\n"), cut, line + line, "x" + line, cut + "x\n", line + "x",
+        cut.substr(0, cut.size() - 1) + "\n", JsonOf(ReportOf({})), std::string("{}\n"),
+        report::JsonFailureLine({"rack7", "1.2.3", "it failed"})}) {
+    EXPECT_FALSE(report::IsJsonReportLine(other)) << other;
+  }
+}
+
+TEST(JsonReport, HasALineInItsPlaceWhereThereIsNone) {
+  EXPECT_EQ(report::JsonFailureLine({"rack7", "1.2.3", "two\nlines \"\xFF\xC2\x9B"}),
+            "{\"format\":\"strake-error/1\",\"strake\":\"1.2.3\",\"server\":{\"name\":\"rack7\"},"
+            "\"error\":\"two\\nlines \\\"\\\\xFF\\u009B\"}\n");
+}
+
 TEST(JsonReport, SaysWhichServerItIsOf) {
   report::CollectionFacts facts = SomeFacts();
   for (const std::string kind : {"orlo", "tavit", "both", "none"}) {
