@@ -41,6 +41,12 @@ Names AllPages() {
 
 std::string Page(const std::string& name) { return ReadFile(ManualFolder() / name); }
 
+// As a terminal of 80 columns shows it.
+ToolEnd Shown(const std::string& page) {
+  return RunTool(Man(), "--warnings -l - < " + InShellQuotes(ManualFolder() / page),
+                 "LC_ALL=C.UTF-8 MANWIDTH=80 MAN_KEEP_FORMATTING= TERM=dumb");
+}
+
 std::string SectionOf(const std::string& page, const std::string& title) {
   const auto begin = page.find("\n.Sh " + title + "\n");
   if (begin == std::string::npos) return "";
@@ -238,14 +244,37 @@ TEST_F(Manual, IsCleanInEveryPage) {
 TEST_F(Manual, IsShownInEveryPage) {
   for (const std::string& page : AllPages()) {
     SCOPED_TRACE(page);
-    const ToolEnd shown =
-        RunTool(Man(), "--warnings -l - < " + InShellQuotes(ManualFolder() / page),
-                "LC_ALL=C.UTF-8 MANWIDTH=80 MAN_KEEP_FORMATTING= TERM=dumb");
+    const ToolEnd shown = Shown(page);
     EXPECT_EQ(shown.status, 0);
     EXPECT_EQ(shown.text.find("warning:"), std::string::npos) << shown.text;
     const std::string name = page.substr(0, page.find('.'));
     EXPECT_NE(shown.text.find("     " + name + " "), std::string::npos) << shown.text;
     EXPECT_NE(shown.text.find("\nSEE ALSO\n"), std::string::npos) << shown.text;
+  }
+}
+
+TEST_F(Manual, ShowsJsonWithItsQuotes) {
+  const std::map<std::string, Names> pages = {
+      {"strake-server.5",
+       {R"({"hex": BYTES, "length": N, "succeeds": BOOL})", R"({"text": TEXT})",
+        R"({"elements": [E, ...]})", R"({"id": N, "header": N, "data": BYTES})",
+        R"({"id": N, "header": N, "text": TEXT, "max": M})"}},
+      {"strake-trace.5",
+       {R"({"event":"query","classes":[NAME,...]})", R"({"event":"query_end"})",
+        R"({"event":"query_end","throws":TEXT})", R"({"event":"log","level":N,"message":TEXT})"}},
+  };
+  for (const auto& [page, forms] : pages) {
+    const std::string shown = Shown(page).text;
+    for (const std::string& form : forms) {
+      EXPECT_NE(shown.find("     " + form + "\n"), std::string::npos) << form << "\n" << shown;
+    }
+  }
+}
+
+// A macro takes a quote that stands before a word as its own.
+TEST_F(Manual, WritesNoBareQuoteInALineOfAMacro) {
+  for (const std::string& page : AllPages()) {
+    EXPECT_EQ(Matches(Page(page), R"(^(\..*".*)$)"), Names()) << page;
   }
 }
 
