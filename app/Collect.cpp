@@ -89,8 +89,8 @@ int Collect(const CollectOptions& options) {
       std::move(collected), options.showSecrets ? report::Secrets::Shown : report::Secrets::Masked,
       inputs.limits);
   WriteReport(report, options, output.get());
-  if (options.selection.sensor && report.Sensors().empty() && !options.quiet) {
-    TellWarning("--sensor: no sensor is called '" + *options.selection.sensor + "'");
+  if (const auto warning = NoSuchSensor(report, options)) {
+    TellWarning(*warning);
   }
   return StatusOf(report, options);
 }

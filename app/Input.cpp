@@ -1,10 +1,15 @@
 #include "app/Input.h"
 
+#include "os/FileIdentity.h"
 #include "os/InputFile.h"
 
 #include <cstdio>
 
 namespace strake::app {
+
+bool IsStandardInput(const std::filesystem::path& file) {
+  return file == kStandardInput || os::NamedDescriptor(file) == os::kStandardInput;
+}
 
 std::string InputName(const std::filesystem::path& file) {
   return file == kStandardInput ? "standard input" : file.string();

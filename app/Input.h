@@ -10,6 +10,9 @@ namespace strake::app {
 inline constexpr const char* kStandardInput = "-";
 
 // For messages: "standard input", or the file's own.
+// "-", /dev/stdin and their like.
+bool IsStandardInput(const std::filesystem::path& file);
+
 std::string InputName(const std::filesystem::path& file);
 
 // All of it, and a little more than the most where there is more. Throws

@@ -59,8 +59,11 @@ class Collection {
  private:
   void StartMore() {
     while (fRunning.size() < fJobs && fStarted < fServers.size()) {
-      ServerProcess& one = *fServers[fStarted++];
-      one.Start();
+      ServerProcess& one = *fServers[fStarted];
+      if (!one.Start(!fRunning.empty())) {
+        return;
+      }
+      ++fStarted;
       if (!one.HasEnded()) {
         fRunning.push_back(&one);
       }

@@ -7,6 +7,7 @@
 #include <array>
 #include <charconv>
 #include <string_view>
+#include <system_error>
 #include <thread>
 #include <utility>
 
@@ -58,11 +59,14 @@ void RefuseWhatIsForOneServer(const Subcommand& command, const CollectOptions& o
       command.Refuse(refusal.append(": a file for one server, not to be had with ").append(reason));
     }
   }
-  if (options.limits == kStandardInput) {
-    command.Refuse(
-        "--limits: expected a file that can be read for each server, got standard input");
+  std::error_code none;  // what is not there is refused where it is read
+  if (options.limits && (options.limits == kStandardInput ||
+                         (std::filesystem::exists(*options.limits, none) &&
+                          !std::filesystem::is_regular_file(*options.limits, none)))) {
+    command.Refuse("--limits: expected a regular file, which can be read for each server, got " +
+                   InputName(*options.limits));
   }
-  if (std::ranges::count(options.many.servers, kStandardInput) > 1) {
+  if (std::ranges::count_if(options.many.servers, IsStandardInput) > 1) {
     command.Refuse("--server: two of them are standard input");
   }
 }

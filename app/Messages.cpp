@@ -11,7 +11,11 @@ void TellError(std::string_view text) {
   os::WriteStandardError(std::string(kMessagePrefix) + text::EscapeForPeople(text) + "\n");
 }
 
-void TellWarning(std::string_view text) { TellError("warning: " + std::string(text)); }
+std::string WarningLine(std::string_view text) {
+  return std::string(kMessagePrefix) + "warning: " + text::EscapeForPeople(text) + "\n";
+}
+
+void TellWarning(std::string_view text) { os::WriteStandardError(WarningLine(text)); }
 
 void TellFinding(const report::Finding& finding) {
   std::string text(report::SeverityName(finding.severity));

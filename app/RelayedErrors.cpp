@@ -83,7 +83,8 @@ void RelayedErrors::Relay(const std::string& line) {
 
 void RelayedErrors::Tell(const std::string& text) const {
   const std::string name = fServer + ": ";
-  TellError(text.starts_with(name) ? text : name + text);
+  const bool isNamed = text.starts_with(name) || text.starts_with(text::EscapeForPeople(name));
+  TellError(isNamed ? text : name + text);
 }
 
 }  // namespace strake::app

@@ -31,6 +31,14 @@ report::Layout LayoutOfTerminal(report::Layout layout) {
   return layout;
 }
 
+std::optional<std::string> NoSuchSensor(const report::Report& report,
+                                        const CollectOptions& options) {
+  if (!options.selection.sensor || !report.Sensors().empty() || options.quiet) {
+    return std::nullopt;
+  }
+  return "--sensor: no sensor is called '" + *options.selection.sensor + "'";
+}
+
 void WriteReport(const report::Report& report, const CollectOptions& options,
                  os::OutputFile* file) {
   const report::Format& format = *options.format;

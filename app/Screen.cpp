@@ -6,10 +6,6 @@
 namespace strake::app {
 namespace {
 
-// Another screen, without a cursor, cut at the right.
-constexpr std::string_view kEnter = "\x1b[?1049h\x1b[?25l\x1b[?7l";
-constexpr std::string_view kLeave = "\x1b[?7h\x1b[?25h\x1b[?1049l";
-
 constexpr std::string_view kTopLeft = "\x1b[H";
 constexpr std::string_view kEraseRestOfLine = "\x1b[K";
 constexpr std::string_view kEraseBelow = "\x1b[J";

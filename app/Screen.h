@@ -29,9 +29,17 @@ class Screen : private os::Unfinished {
   Screen& operator=(const Screen&) = delete;
   ~Screen() override;
 
+  // Gives the terminal back for a while, and takes it again.
+  void GiveBack() const { fMeans.leave(kLeave); }
+  void TakeAgain() const { fMeans.write(kEnter); }
+
   void Draw(std::string_view text, std::size_t rows) const { fMeans.write(Frame(text, rows)); }
 
  private:
+  // Another screen, without a cursor, cut at the right.
+  static constexpr std::string_view kEnter = "\x1b[?1049h\x1b[?25l\x1b[?7l";
+  static constexpr std::string_view kLeave = "\x1b[?7h\x1b[?25h\x1b[?1049l";
+
   void EndBySignal() noexcept override;
 
   Means fMeans;

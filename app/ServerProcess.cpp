@@ -14,6 +14,14 @@
 namespace strake::app {
 namespace {
 
+// Of descriptors, processes or memory.
+bool IsForLackOfRoom(const std::error_code& error) {
+  return error == std::errc::too_many_files_open ||
+         error == std::errc::too_many_files_open_in_system ||
+         error == std::errc::resource_unavailable_try_again ||
+         error == std::errc::not_enough_memory;
+}
+
 bool HasReport(int status) { return status == kExitDone || status == kExitFindings; }
 
 }  // namespace
@@ -21,20 +29,24 @@ bool HasReport(int status) { return status == kExitDone || status == kExitFindin
 ServerProcess::ServerProcess(Plan plan)
     : fPlan(std::move(plan)), fErrors(InputName(fPlan.server)), fStatus(kExitFailed) {}
 
-void ServerProcess::Start() {
+bool ServerProcess::Start(bool areOthersRunning) {
   std::vector<std::string> words = fPlan.words;
   words.push_back("--server=" + fPlan.server.string());
   try {
     fProcess.emplace(fPlan.command, words,
-                     fPlan.server == kStandardInput ? os::ChildProcess::Input::Own
-                                                    : os::ChildProcess::Input::None);
+                     IsStandardInput(fPlan.server) ? os::ChildProcess::Input::Own
+                                                   : os::ChildProcess::Input::None);
   } catch (const std::system_error& error) {
+    if (areOthersRunning && IsForLackOfRoom(error.code())) {
+      return false;
+    }
     Fail("its process could not be started: " + error.code().message());
-    return;
+    return true;
   }
   if (fPlan.timeout) {
     fDeadline = Clock::now() + *fPlan.timeout;
   }
+  return true;
 }
 
 void ServerProcess::Postpone(Clock::duration held) {

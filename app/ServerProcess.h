@@ -28,8 +28,9 @@ class ServerProcess {
 
   explicit ServerProcess(Plan plan);
 
-  // It may end in that; then, and whenever it fails, standard error is told.
-  void Start();
+  // It may end in that; then, and whenever it fails, standard error is told. False:
+  // the system has no room for another process until one of those beside it ended.
+  [[nodiscard]] bool Start(bool areOthersRunning);
   // Lets the time that it has be so much later.
   void Postpone(Clock::duration held);
 

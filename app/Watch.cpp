@@ -4,6 +4,7 @@
 #include "app/ForwardingObserver.h"
 #include "app/Inputs.h"
 #include "app/Messages.h"
+#include "app/ReportOutput.h"
 #include "app/RunQueries.h"
 #include "app/SharedFiles.h"
 #include "app/Trail.h"
@@ -13,7 +14,6 @@
 
 #include <algorithm>
 #include <optional>
-#include <thread>
 #include <utility>
 
 namespace strake::app {
@@ -27,9 +27,10 @@ class Pace {
 
   explicit Pace(std::chrono::milliseconds interval) : fInterval(interval) {}
 
-  void Wait() {
+  // When the next round is due.
+  Clock::time_point Next() {
     fNext = std::max(fNext + fInterval, Clock::now());
-    std::this_thread::sleep_until(fNext);
+    return fNext;
   }
 
  private:
@@ -80,12 +81,15 @@ void Run(Rounds& rounds, const WatchOptions& options, WatchView& view) {
   std::optional<compare::Round> last;
   for (std::uint32_t count = 1;; ++count) {
     compare::Round round = rounds.Collect();
+    if (const auto warning = NoSuchSensor(round.report, options.collect); warning && count == 1) {
+      view.AddLogLine(WarningLine(*warning));
+    }
     view.Show(round, last ? &*last : nullptr);
     if (count == options.count) {
       break;
     }
     last.emplace(std::move(round));
-    pace.Wait();
+    view.WaitUntil(pace.Next());
   }
   rounds.Finish();
 }
@@ -100,7 +104,7 @@ int Watch(const WatchOptions& options) {
   if (!options.collect.quiet) {
     WarnOfUnknownClasses(inputs.queries);
   }
-  view.emplace(options);  // takes the terminal
+  view.emplace(options, inputs.server.facts.name);  // takes the terminal
   try {
     Rounds rounds(options.collect, inputs, trail, trail.Sink());
     Run(rounds, options, *view);

@@ -6,8 +6,10 @@
 #include "report/TableReport.h"
 #include "report/TableText.h"
 #include "report/Timestamp.h"
+#include "text/TextEscape.h"
 
 #include <algorithm>
+#include <thread>
 #include <utility>
 
 namespace strake::app {
@@ -31,12 +33,12 @@ void AppendNames(std::string& list, const std::vector<std::string>& names, std::
 
 std::string ChangesText(const compare::Changes& changes) {
   std::string text;
-  AppendNames(text, changes.changed, "value changed", "values changed");
-  AppendNames(text, changes.added, "instance added", "instances added");
-  AppendNames(text, changes.gone, "instance gone", "instances gone");
   if (changes.findings > 0) {
     report::AppendListed(text, report::Counted(changes.findings, "new finding", "new findings"));
   }
+  AppendNames(text, changes.changed, "value changed", "values changed");
+  AppendNames(text, changes.added, "instance added", "instances added");
+  AppendNames(text, changes.gone, "instance gone", "instances gone");
   return text.empty() ? "nothing changed" : text;
 }
 
@@ -48,10 +50,22 @@ std::unique_ptr<Screen> MakeScreen() {
 
 }  // namespace
 
-WatchView::WatchView(const WatchOptions& options) : fOptions(options), fScreen(MakeScreen()) {}
+WatchView::WatchView(const WatchOptions& options, const std::string& server)
+    : fOptions(options), fScreen(MakeScreen()) {
+  if (fScreen) {
+    fRequests.emplace();
+    fLast = "Collecting " + text::EscapeForPeople(server) + " ...\n";
+    Draw();
+  }
+}
+
+WatchView::~WatchView() {
+  fScreen.reset();
+  os::WriteStandardError(fLogLines);
+}
 
 void WatchView::AddLogLine(std::string_view line) {
-  if (fScreen) {
+  if (fScreen && os::StandardErrorCanErase()) {
     fLogLines += line;
   } else {
     os::WriteStandardError(line);
@@ -77,11 +91,31 @@ void WatchView::Show(const compare::Round& round, const compare::Round* before) 
   text.append(std::exchange(fLogLines, {})).append("\n");
   report::WriteTable(round.report, layout, sink);
   if (fScreen) {
-    const auto size = os::StandardOutputSize();
-    fScreen->Draw(text, size ? size->rows : 0);
     fLast = std::move(text);
+    Draw();
   } else {
     os::WriteStandardOutput(fRounds == 1 ? text : "\n" + text);
+  }
+}
+
+void WatchView::Draw() const {
+  const auto size = os::StandardOutputSize();
+  fScreen->Draw(fLast, size ? size->rows : 0);
+}
+
+void WatchView::WaitUntil(std::chrono::steady_clock::time_point time) {
+  if (!fScreen) {
+    std::this_thread::sleep_until(time);
+    return;
+  }
+  for (auto request = fRequests->Wait(time); request != os::TerminalRequest::None;
+       request = fRequests->Wait(time)) {
+    if (request == os::TerminalRequest::Stop) {
+      fScreen->GiveBack();
+      fRequests->Stop();
+      fScreen->TakeAgain();
+    }
+    Draw();
   }
 }
 

@@ -29,9 +29,15 @@ class SensorsByName {
     }
   }
 
-  // Whether it is there, with a reading or without one.
-  [[nodiscard]] bool Knows(const StoredInstance& instance) const {
-    return report::IsSensor(instance) && fSensors.contains(NameOf(report::SensorOf(instance)));
+  // Whether the sensor is there and gives no reading.
+  [[nodiscard]] bool HasSilent(const StoredInstance& instance) const {
+    if (!report::IsSensor(instance)) {
+      return false;
+    }
+    const auto found = fSensors.find(NameOf(report::SensorOf(instance)));
+    return found != fSensors.end() && std::ranges::any_of(found->second, [](const Sensor* sensor) {
+             return sensor->instance == nullptr;
+           });
   }
   // Of several with one name the first that was not taken; null when none is left.
   const Sensor* Take(const Sensor& like) {
@@ -90,11 +96,11 @@ std::set<const StoredInstance*> MarkInstances(const std::vector<Difference>& dif
   std::set<const StoredInstance*> sensors;
   for (const Difference& one : differences) {
     if (one.after == nullptr) {
-      if (!sensorsAfter.Knows(*one.before)) {
+      if (!sensorsAfter.HasSilent(*one.before)) {
         changes.gone.push_back(NameForPeople(*one.before));
       }
     } else if (one.before == nullptr) {
-      if (!sensorsBefore.Knows(*one.after)) {
+      if (!sensorsBefore.HasSilent(*one.after)) {
         changes.added.push_back(NameForPeople(*one.after));
       }
       changes.marks.Add(InReport(after, *one.after));

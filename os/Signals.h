@@ -37,7 +37,7 @@ class SignalHold {
   ~SignalHold();
 };
 
-// From here on a request to end (SIGINT, SIGTERM, SIGHUP) ends what is
+// From here on a request to end (SIGINT, SIGTERM, SIGHUP, SIGQUIT) ends what is
 // unfinished, then the process, by that very signal; a second one, a while
 // later, ends the process at once. A request that the parent process ignores
 // stays ignored. A reader that went away and a file that grows too large are

@@ -10,7 +10,7 @@
 namespace strake::os {
 namespace {
 
-constexpr std::array<int, 3> kRequests{SIGINT, SIGTERM, SIGHUP};
+constexpr std::array<int, 4> kRequests{SIGINT, SIGTERM, SIGHUP, SIGQUIT};
 constexpr std::array<int, 2> kWriteErrors{SIGPIPE, SIGXFSZ};
 
 // timeout(1) sends its signal to the process and then to its group; a terminal

@@ -265,17 +265,16 @@ TEST_F(CommandManyServersTest, HandTheirLogLinesOn) {
   EXPECT_EQ(many, single);
 }
 
-TEST_F(CommandManyServersTest, LeaveStandardInputToTheOneThatIsIt) {
+TEST_F(CommandManyServersTest, MayBeStandardInputByEachOfItsNames) {
   const std::string fine = Server("fine");
-  const Outcome outcome =
-      Command(Collecting({"/dev/stdin", "-", fine})).Reading(STDIN_FILENO, fine).Run();
-  EXPECT_EQ(outcome.status, 1);
-  const Words lines = LinesOf(outcome.out);
-  ASSERT_EQ(lines.size(), 3U) << outcome;
-  EXPECT_EQ(json::parse(lines[0]).at("format"), "strake-error/1") << "it has an empty one";
-  json report = json::parse(lines[1]);
-  EXPECT_EQ(report.at("server").at("name"), "standard input");
-  EXPECT_EQ(report.at("instances"), json::parse(lines[2]).at("instances"));
+  for (const std::string name : {"-", "/dev/stdin"}) {
+    const Outcome outcome =
+        Command(Collecting({fine, name, fine})).Reading(STDIN_FILENO, fine).Run();
+    EXPECT_EQ(outcome.status, 0) << name;
+    const Words lines = LinesOf(outcome.out);
+    ASSERT_EQ(lines.size(), 3U) << outcome;
+    EXPECT_EQ(json::parse(lines[1]).at("instances"), json::parse(lines[2]).at("instances"));
+  }
 }
 
 TEST_F(CommandManyServersTest, AreRefusedTogetherWithWhatIsForOne) {
@@ -299,7 +298,11 @@ TEST_F(CommandManyServersTest, AreRefusedTogetherWithWhatIsForOne) {
       {{"--log", fFolder / "log"},
        "--log: a file for one server, not to be had with several --server"},
       {{"--limits", "-"},
-       "--limits: expected a file that can be read for each server, got standard input"},
+       "--limits: expected a regular file, which can be read for each server, got standard "
+       "input"},
+      {{"--limits", "/dev/null"},
+       "--limits: expected a regular file, which can be read for each server, got /dev/null"},
+      {{"--server", "/dev/stdin", "--server", "-"}, "--server: two of them are standard input"},
       {{"--server", "-", "--server", "-"}, "--server: two of them are standard input"},
       {{"--jobs", "0"}, "--jobs: '0' is no number of processes, expected 1 to 256"},
       {{"--jobs", "257"}, "--jobs: '257' is no number of processes, expected 1 to 256"},

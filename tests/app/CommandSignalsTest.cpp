@@ -21,7 +21,7 @@ class CommandSignalsTest : public testing::Test {
 };
 
 TEST_F(CommandSignalsTest, KeepsItsTrailAndNothingElse) {
-  for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
+  for (const int signal : {SIGINT, SIGTERM, SIGHUP, SIGQUIT}) {
     const std::string name = "signal" + std::to_string(signal);
     const Outcome outcome = CollectHostile({"--query", "VELKSG_SP_ComputerSystem", "--query", name,
                                             "--output", fReport, "--trace", fTrace, "--log", fLog});

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
+#include <sys/resource.h>
 
 namespace strake::tests {
 namespace {
@@ -19,7 +20,7 @@ struct Failed {
 Failed FailureOf(const ServerProcess::Plan& plan, ServerProcess::Clock::duration held = {}) {
   ServerProcess process(plan);
   testing::internal::CaptureStderr();
-  process.Start();
+  EXPECT_TRUE(process.Start(false));
   process.Postpone(held);
   while (!process.HasEnded()) {
     ServerProcess* const running[] = {&process};
@@ -83,6 +84,26 @@ TEST(ServerProcess, IsGivenItsServerBehindTheWords) {
   ServerProcess::Plan plan = Script("echo strake: \"$0\" >&2; exit 1");
   plan.server = "a b";
   EXPECT_EQ(FailureOf(plan).text, "--server=a b");
+}
+
+// Of an escaped name, too.
+TEST(ServerProcess, IsNamedOnceWhateverItsName) {
+  ServerProcess::Plan plan = Script("printf 'strake: a\\\\nb: why\\n' >&2; exit 2");
+  plan.server = "a\nb";
+  EXPECT_EQ(FailureOf(plan), (Failed{"a\\nb: why", "strake: a\\nb: why\n"}));
+}
+
+TEST(ServerProcess, WaitsForOthersWhenThereIsNoRoomForIt) {
+  ServerProcess process(Script("exit 1"));
+  rlimit before{};
+  ::getrlimit(RLIMIT_NOFILE, &before);
+  const rlimit none{3, before.rlim_max};
+  ::setrlimit(RLIMIT_NOFILE, &none);
+  const bool isStarted = process.Start(true);
+  ::setrlimit(RLIMIT_NOFILE, &before);
+  EXPECT_FALSE(isStarted);
+  EXPECT_FALSE(process.HasEnded());
+  EXPECT_TRUE(process.Start(true));
 }
 
 }  // namespace

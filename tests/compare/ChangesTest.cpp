@@ -165,6 +165,10 @@ TEST(Changes, OfSensorsWithOneNameAreToldByTheirOrder) {
   const Input twins{{Fan(40), Fan(50)}};
   const report::Limits limits = UpperLimits(45, 60);
   EXPECT_EQ(Marked(twins, twins, 0, limits), kNothing);
+  EXPECT_EQ(Marked(twins, {{Fan(40)}}), "; -Fan 1 on SP 1 0");
+  const std::string another = Marked({{Fan(40)}}, twins);
+  EXPECT_EQ(another.find("SP 1 fan Fan 1 > 50 %\n- finding warning > 2 instances of "), 0U);
+  EXPECT_TRUE(another.ends_with("\n; +Fan 1 on SP 1 1")) << another;
   EXPECT_EQ(Marked(twins, {{Fan(40), Fan(51)}}), "SP 1 fan Fan 1 > 51 %\n; ~Fan 1 on SP 1 0");
 }
 

@@ -5,6 +5,7 @@
 #include <poll.h>
 #include <pty.h>
 #include <stdexcept>
+#include <sys/ioctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
 #include <utility>
@@ -47,6 +48,11 @@ void Conversation::Say(const std::string& text) const {
   if (::write(fTerminal, text.data(), text.size()) != static_cast<ssize_t>(text.size())) {
     throw std::runtime_error("nobody listens");
   }
+}
+
+void Conversation::Resize(unsigned short rows, unsigned short columns) const {
+  const winsize size{.ws_row = rows, .ws_col = columns, .ws_xpixel = 0, .ws_ypixel = 0};
+  ::ioctl(fTerminal, TIOCSWINSZ, &size);
 }
 
 std::string Conversation::Hear(const std::string& text) {

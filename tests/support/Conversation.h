@@ -17,6 +17,8 @@ class Conversation {
 
   // As if it were typed.
   void Say(const std::string& text) const;
+  // As if its window changed.
+  void Resize(unsigned short rows, unsigned short columns) const;
   // Gives what it said up to and with this text since the last call; all of it, when
   // it ends or is silent for long before.
   std::string Hear(const std::string& text);
