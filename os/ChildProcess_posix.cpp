@@ -89,7 +89,8 @@ class ChildProcess::State final : private Unfinished {
   std::optional<ChildEnd> end;
 
  private:
-  void EndBySignal() noexcept override;
+  void EndBySignal() noexcept override { Kill(); }
+  void Kill() noexcept;
   void Reap();
 
   pid_t fProcess = -1;
@@ -106,7 +107,7 @@ ChildProcess::State::State(const std::filesystem::path& program,
   fHandle = HandleOf(fProcess);
   if (!fHandle.IsOpen()) {
     const int error = errno;
-    EndBySignal();
+    Kill();
     throw std::system_error(error, std::generic_category());
   }
   Enter();
@@ -115,11 +116,11 @@ ChildProcess::State::State(const std::filesystem::path& program,
 ChildProcess::State::~State() {
   const SignalHold hold;
   Leave();
-  EndBySignal();
+  Kill();
 }
 
 // Only the process' own parent waits for it, so until then nobody else has its number.
-void ChildProcess::State::EndBySignal() noexcept {
+void ChildProcess::State::Kill() noexcept {
   if (fProcess > 0) {
     ::kill(fProcess, SIGKILL);
     while (::waitpid(fProcess, nullptr, 0) < 0 && errno == EINTR) {
