@@ -112,7 +112,7 @@ void WatchView::WaitUntil(std::chrono::steady_clock::time_point time) {
        request = fRequests->Wait(time)) {
     if (request == os::TerminalRequest::Stop) {
       fScreen->GiveBack();
-      fRequests->Stop();
+      os::TerminalRequests::Stop();
       fScreen->TakeAgain();
     }
     Draw();

@@ -26,7 +26,7 @@ class TerminalRequests {
   // Waits for one, or until it is time.
   [[nodiscard]] TerminalRequest Wait(Clock::time_point until) const;
   // Stops this process, unless nobody could continue it; returns when it goes on.
-  void Stop() const;
+  static void Stop();
 
  private:
   class State;

@@ -48,7 +48,7 @@ TerminalRequest TerminalRequests::Wait(Clock::time_point until) const {
 }
 
 // Without anybody who could continue it the system does not stop a process so.
-void TerminalRequests::Stop() const {
+void TerminalRequests::Stop() {
   sigset_t stop{};
   ::sigemptyset(&stop);
   ::sigaddset(&stop, SIGTSTP);
