@@ -45,7 +45,7 @@ else
 fi
 )";
 
-// The last two parts of a specification: what is awaited, and where it comes from.
+// The last two parts of an entry: what is awaited, and where it comes from.
 std::string Awaited(const OptionOutline& option) {
   std::string part = ":";
   part.append(WithBackslashes(option.type, "\\:")).append(":");
@@ -63,8 +63,8 @@ std::string Awaited(const OptionOutline& option) {
   return part + "(" + WithBackslashes(values, ":") + ")";
 }
 
-std::string Line(const std::string& specification, const char* indent) {
-  return std::string(" \\\n").append(indent).append(QuotedForShell(specification));
+std::string Line(const std::string& entry, const char* indent) {
+  return std::string(" \\\n").append(indent).append(QuotedForShell(entry));
 }
 
 // As _arguments takes them.
@@ -75,17 +75,17 @@ std::string OptionLines(const OptionOutline& option, const char* indent) {
   }
   std::string lines;
   for (const std::string& name : option.names) {
-    std::string specification;
+    std::string entry;
     if (option.isRepeatable) {
-      specification = "*";
+      entry = "*";
     } else if (option.names.size() > 1) {
-      specification.append("(").append(names).append(")");
+      entry.append("(").append(names).append(")");
     }
-    specification += name;
-    specification += option.type.empty() ? "" : "=";
-    specification.append("[").append(WithBackslashes(option.text, R"([]\:)")).append("]");
-    specification += option.type.empty() ? "" : Awaited(option);
-    lines += Line(specification, indent);
+    entry += name;
+    entry += option.type.empty() ? "" : "=";
+    entry.append("[").append(WithBackslashes(option.text, R"([]\:)")).append("]");
+    entry += option.type.empty() ? "" : Awaited(option);
+    lines += Line(entry, indent);
   }
   return lines;
 }
