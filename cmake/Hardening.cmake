@@ -13,8 +13,14 @@ check_cxx_compiler_flag(-fcf-protection STRAKE_HAS_CF_PROTECTION)
 if(STRAKE_HAS_CF_PROTECTION)
   target_compile_options(strake_flags INTERFACE -fcf-protection)
 endif()
-# What the loader resolves is resolved at the start and read-only from then on.
-target_link_options(strake_flags INTERFACE -Wl,-z,relro,-z,now,-z,noexecstack)
+if(WIN32)
+  # Any address of 64 bits, and no data that is run.
+  target_link_options(strake_flags INTERFACE
+    -Wl,--dynamicbase,--high-entropy-va,--nxcompat)
+else()
+  # What the loader resolves is resolved at the start and read-only from then on.
+  target_link_options(strake_flags INTERFACE -Wl,-z,relro,-z,now,-z,noexecstack)
+endif()
 
 set(optimized "$<CONFIG:Release,RelWithDebInfo,MinSizeRel>")
 # Checked copies need optimization, and sanitizers check more. Tests that are

@@ -1,0 +1,71 @@
+# What find_package finds when Windows is built for: the header-only packages of
+# this machine, through links that show nothing else of its include folder, and
+# what is compiled from source. Of it, scripts/fetch-source brings pugixml.
+
+set(STRAKE_PUGIXML_SOURCE "${CMAKE_SOURCE_DIR}/build/sources/pugixml" CACHE PATH
+    "Source of pugixml, as scripts/fetch-source leaves it")
+set(STRAKE_GTEST_SOURCE "/usr/src/googletest/googletest" CACHE PATH "Source of GoogleTest")
+
+# header_package(TARGET HEADER NAME): the folder, or file, NAME of the include
+# folder, recognized by HEADER.
+function(strake_header_package target header name)
+  if(TARGET ${target})
+    return()
+  endif()
+  find_path(include_folder ${header} PATHS /usr/include
+            NO_DEFAULT_PATH NO_CMAKE_FIND_ROOT_PATH NO_CACHE REQUIRED)
+  set(links ${CMAKE_BINARY_DIR}/headers/${name})
+  file(MAKE_DIRECTORY ${links})
+  file(CREATE_LINK ${include_folder}/${name} ${links}/${name} SYMBOLIC)
+  add_library(${target} INTERFACE IMPORTED GLOBAL)
+  set_target_properties(${target} PROPERTIES INTERFACE_INCLUDE_DIRECTORIES ${links})
+endfunction()
+
+function(strake_pugixml)
+  if(TARGET pugixml::static)
+    return()
+  endif()
+  set(source ${STRAKE_PUGIXML_SOURCE}/src/pugixml.cpp)
+  if(NOT EXISTS ${source})
+    message(FATAL_ERROR "there is no ${source}: run scripts/fetch-source pugixml")
+  endif()
+  add_library(strake_pugixml STATIC ${source})
+  target_include_directories(strake_pugixml SYSTEM PUBLIC ${STRAKE_PUGIXML_SOURCE}/src)
+  add_library(pugixml::static ALIAS strake_pugixml)
+endfunction()
+
+function(strake_gtest)
+  if(TARGET GTest::gtest_main)
+    return()
+  endif()
+  if(NOT EXISTS ${STRAKE_GTEST_SOURCE}/CMakeLists.txt)
+    message(FATAL_ERROR "there is no ${STRAKE_GTEST_SOURCE}: install the package googletest")
+  endif()
+  set(INSTALL_GTEST OFF)
+  add_subdirectory(${STRAKE_GTEST_SOURCE} ${CMAKE_BINARY_DIR}/gtest EXCLUDE_FROM_ALL SYSTEM)
+endfunction()
+
+macro(strake_provide method package)
+  set(strake_provided ON)
+  if("${package}" STREQUAL Boost)
+    strake_header_package(Boost::headers boost/version.hpp boost)
+  elseif("${package}" STREQUAL CLI11)
+    strake_header_package(CLI11::CLI11 CLI/CLI.hpp CLI)
+  elseif("${package}" STREQUAL nlohmann_json)
+    strake_header_package(nlohmann_json::nlohmann_json nlohmann/json.hpp nlohmann)
+  elseif("${package}" STREQUAL tomlplusplus)
+    strake_header_package(tomlplusplus::tomlplusplus toml++/toml.h toml++)
+  elseif("${package}" STREQUAL pugixml)
+    strake_pugixml()
+  elseif("${package}" STREQUAL GTest)
+    strake_gtest()
+  else()
+    set(strake_provided OFF)
+  endif()
+  set(${package}_FOUND ${strake_provided})
+  if(NOT strake_provided)
+    find_package(${package} ${ARGN} BYPASS_PROVIDER)
+  endif()
+endmacro()
+
+cmake_language(SET_DEPENDENCY_PROVIDER strake_provide SUPPORTED_METHODS FIND_PACKAGE)
