@@ -98,14 +98,6 @@ FileIdentity IdentityOf(const fs::path& name) {
   return identity;
 }
 
-bool FileIdentity::IsSameAs(const FileIdentity& other) const {
-  if (descriptor && descriptor == other.descriptor) {
-    return true;
-  }
-  const bool isOneFile = device == other.device && node == other.node && newName == other.newName;
-  return isOneFile && (isRegular || (!descriptor && !other.descriptor));
-}
-
 bool IsOpenForWriting(int descriptor) {
   const int flags = ::fcntl(descriptor, F_GETFL);
   return flags >= 0 && (flags & O_PATH) == 0 && (flags & O_ACCMODE) != O_RDONLY;

@@ -23,6 +23,11 @@ class LoadableModule {
   // Null when the module has no such symbol.
   [[nodiscard]] void* Find(const char* symbol) const;
 
+  // Tells the module through its entry that it joins the process (1) or leaves it
+  // (0), and gives its answer. Windows' loader does this itself: there the module
+  // is only looked at before it joins, and telling it is loading and unloading.
+  int Notify(const char* entry, unsigned int reason);
+
  private:
   void* fLibrary;
 };

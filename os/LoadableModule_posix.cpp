@@ -59,4 +59,8 @@ LoadableModule::~LoadableModule() { dlclose(fLibrary); }
 
 void* LoadableModule::Find(const char* symbol) const { return dlsym(fLibrary, symbol); }
 
+int LoadableModule::Notify(const char* entry, unsigned int reason) {
+  return reinterpret_cast<int (*)(unsigned int)>(Find(entry))(reason);
+}
+
 }  // namespace strake::os

@@ -1,0 +1,137 @@
+#include "os/Handle_windows.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <memory>
+#include <system_error>
+
+namespace strake::os {
+namespace {
+
+struct ErrorRow {
+  DWORD windows;
+  int posix;
+};
+
+constexpr std::array<ErrorRow, 22> kErrors{{
+    {ERROR_FILE_NOT_FOUND, ENOENT},      {ERROR_PATH_NOT_FOUND, ENOENT},
+    {ERROR_INVALID_NAME, ENOENT},        {ERROR_BAD_PATHNAME, ENOENT},
+    {ERROR_BAD_NETPATH, ENOENT},         {ERROR_INVALID_DRIVE, ENOENT},
+    {ERROR_ACCESS_DENIED, EACCES},       {ERROR_SHARING_VIOLATION, EACCES},
+    {ERROR_LOCK_VIOLATION, EACCES},      {ERROR_WRITE_PROTECT, EROFS},
+    {ERROR_DIRECTORY, ENOTDIR},          {ERROR_FILE_EXISTS, EEXIST},
+    {ERROR_ALREADY_EXISTS, EEXIST},      {ERROR_DISK_FULL, ENOSPC},
+    {ERROR_HANDLE_DISK_FULL, ENOSPC},    {ERROR_FILENAME_EXCED_RANGE, ENAMETOOLONG},
+    {ERROR_TOO_MANY_OPEN_FILES, EMFILE}, {ERROR_NOT_ENOUGH_MEMORY, ENOMEM},
+    {ERROR_OUTOFMEMORY, ENOMEM},         {ERROR_INVALID_HANDLE, EBADF},
+    {ERROR_BROKEN_PIPE, EPIPE},          {ERROR_NO_DATA, EPIPE},
+}};
+
+std::error_code CodeOf(DWORD error) {
+  const auto* const row = std::ranges::find(kErrors, error, &ErrorRow::windows);
+  return row == kErrors.end() ? std::error_code(static_cast<int>(error), std::system_category())
+                              : std::error_code(row->posix, std::generic_category());
+}
+
+// Its texts call what the error is about %1.
+std::wstring SystemText(DWORD error) {
+  wchar_t* text = nullptr;
+  const DWORD length = ::FormatMessageW(
+      FORMAT_MESSAGE_ALLOCATE_BUFFER | FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS,
+      nullptr, error, MAKELANGID(LANG_ENGLISH, SUBLANG_ENGLISH_US), reinterpret_cast<LPWSTR>(&text),
+      0, nullptr);
+  const std::unique_ptr<wchar_t, decltype(&::LocalFree)> owner(text, &::LocalFree);
+  std::wstring line(text, text == nullptr ? 0 : length);
+  while (!line.empty() && (line.back() <= L' ' || line.back() == L'.')) {
+    line.pop_back();
+  }
+  constexpr std::wstring_view kInsert = L"%1";
+  if (const std::size_t place = line.find(kInsert); place != std::wstring::npos) {
+    line.replace(place, kInsert.size(), L"the file");
+  }
+  return line;
+}
+
+}  // namespace
+
+HANDLE StandardHandle(int descriptor) noexcept {
+  constexpr std::array<DWORD, 3> kNames{STD_INPUT_HANDLE, STD_OUTPUT_HANDLE, STD_ERROR_HANDLE};
+  if (descriptor < 0 || static_cast<std::size_t>(descriptor) >= kNames.size()) {
+    return nullptr;
+  }
+  HANDLE const handle = ::GetStdHandle(kNames[static_cast<std::size_t>(descriptor)]);
+  return handle == INVALID_HANDLE_VALUE ? nullptr : handle;
+}
+
+DWORD WriteAll(HANDLE handle, const char* bytes, std::size_t count) noexcept {
+  constexpr std::size_t kPiece = std::size_t{1} << 20U;
+  std::string_view rest(bytes, count);
+  while (!rest.empty()) {
+    DWORD written = 0;
+    const auto piece = static_cast<DWORD>(std::min(rest.size(), kPiece));
+    if (::WriteFile(handle, rest.data(), piece, &written, nullptr) == 0) {
+      return ::GetLastError();
+    }
+    rest.remove_prefix(written);
+  }
+  return 0;
+}
+
+std::string ErrorText(DWORD error) {
+  const std::error_code code = CodeOf(error);
+  if (code.category() == std::generic_category()) {
+    return code.message();
+  }
+  const std::wstring text = SystemText(error);
+  return text.empty() ? "error " + std::to_string(error) : ToUtf8(text);
+}
+
+void FailBy(DWORD error) { throw std::system_error(CodeOf(error)); }
+
+std::string ToUtf8(std::wstring_view text) {
+  const auto count = static_cast<int>(text.size());
+  std::string utf8(text.size() * 3, '\0');
+  utf8.resize(static_cast<std::size_t>(
+      ::WideCharToMultiByte(CP_UTF8, 0, text.data(), count, utf8.data(),
+                            static_cast<int>(utf8.size()), nullptr, nullptr)));
+  return utf8;
+}
+
+std::wstring ToWide(std::string_view text) {
+  const auto count = static_cast<int>(text.size());
+  std::wstring wide(text.size(), L'\0');
+  wide.resize(static_cast<std::size_t>(::MultiByteToWideChar(
+      CP_UTF8, 0, text.data(), count, wide.data(), static_cast<int>(wide.size()))));
+  return wide;
+}
+
+std::wstring FullName(const std::filesystem::path& file) {
+  std::wstring name;
+  DWORD length = MAX_PATH;
+  while (length > name.size()) {
+    name.resize(length);
+    length = ::GetFullPathNameW(file.c_str(), length, name.data(), nullptr);
+  }
+  if (length == 0) {
+    FailBy();
+  }
+  name.resize(length);
+  return name;
+}
+
+bool IsDeviceName(std::wstring_view fullName) { return fullName.starts_with(L"\\\\.\\"); }
+
+std::wstring NameOf(HANDLE file) {
+  std::wstring name;
+  DWORD length = MAX_PATH;
+  while (length > name.size()) {
+    name.resize(length);
+    length = ::GetFinalPathNameByHandleW(file, name.data(), static_cast<DWORD>(name.size()),
+                                         FILE_NAME_NORMALIZED | VOLUME_NAME_DOS);
+  }
+  name.resize(length);
+  return name;
+}
+
+}  // namespace strake::os

@@ -1,0 +1,150 @@
+#include "os/StartedProcess_windows.h"
+
+#include "os/FileIdentity.h"
+
+#include <array>
+#include <string_view>
+
+namespace strake::os {
+namespace {
+
+struct Pipe {
+  Handle read;
+  Handle write;
+};
+
+Handle Inherited(HANDLE handle) {
+  HANDLE copy = nullptr;
+  if (::DuplicateHandle(::GetCurrentProcess(), handle, ::GetCurrentProcess(), &copy, 0, TRUE,
+                        DUPLICATE_SAME_ACCESS) == 0) {
+    FailBy();
+  }
+  return Handle(copy);
+}
+
+// The end that is written to goes to the child.
+Pipe MakePipe() {
+  HANDLE read = nullptr;
+  HANDLE write = nullptr;
+  if (::CreatePipe(&read, &write, nullptr, kPipeSize) == 0) {
+    FailBy();
+  }
+  const Handle own(write);
+  return {Handle(read), Inherited(write)};
+}
+
+Handle MakeInput(bool hasInput) {
+  if (hasInput) {
+    return Inherited(StandardHandle(kStandardInput));
+  }
+  const Handle nothing(::CreateFileW(L"NUL", GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE,
+                                     nullptr, OPEN_EXISTING, 0, nullptr));
+  if (!nothing.IsOpen()) {
+    FailBy();
+  }
+  return Inherited(nothing.Get());
+}
+
+Handle MakeJob() {
+  Handle job(::CreateJobObjectW(nullptr, nullptr));
+  JOBOBJECT_EXTENDED_LIMIT_INFORMATION limits{};
+  limits.BasicLimitInformation.LimitFlags = JOB_OBJECT_LIMIT_KILL_ON_JOB_CLOSE;
+  if (!job.IsOpen() || ::SetInformationJobObject(job.Get(), JobObjectExtendedLimitInformation,
+                                                 &limits, sizeof limits) == 0) {
+    FailBy();
+  }
+  return job;
+}
+
+// As the child's command line is taken apart again: a quote in it, and the
+// backslashes before one, stand behind a backslash.
+void AppendWord(std::wstring& line, std::wstring_view word) {
+  line += L'"';
+  std::size_t backslashes = 0;
+  for (const wchar_t character : word) {
+    if (character == L'"') {
+      line.append(backslashes + 1, L'\\');
+    }
+    backslashes = character == L'\\' ? backslashes + 1 : 0;
+    line += character;
+  }
+  line.append(backslashes, L'\\');
+  line += L'"';
+}
+
+std::wstring LineOf(const std::filesystem::path& program, const std::vector<std::string>& words) {
+  std::wstring line;
+  AppendWord(line, program.native());
+  for (const std::string& word : words) {
+    line += L' ';
+    AppendWord(line, ToWide(word));
+  }
+  return line;
+}
+
+// The handles that a child gets, and no others.
+class Inheritance {
+ public:
+  explicit Inheritance(const std::array<HANDLE, 3>& handles) : fHandles(handles) {
+    SIZE_T size = 0;
+    ::InitializeProcThreadAttributeList(nullptr, 1, 0, &size);
+    fBytes.resize(size);
+    if (::InitializeProcThreadAttributeList(List(), 1, 0, &size) == 0) {
+      FailBy();
+    }
+    if (::UpdateProcThreadAttribute(List(), 0, PROC_THREAD_ATTRIBUTE_HANDLE_LIST, fHandles.data(),
+                                    sizeof fHandles, nullptr, nullptr) == 0) {
+      const DWORD error = ::GetLastError();
+      ::DeleteProcThreadAttributeList(List());
+      FailBy(error);
+    }
+  }
+  Inheritance(const Inheritance&) = delete;
+  Inheritance& operator=(const Inheritance&) = delete;
+  ~Inheritance() { ::DeleteProcThreadAttributeList(List()); }
+
+  [[nodiscard]] LPPROC_THREAD_ATTRIBUTE_LIST List() noexcept {
+    return reinterpret_cast<LPPROC_THREAD_ATTRIBUTE_LIST>(fBytes.data());
+  }
+
+ private:
+  std::array<HANDLE, 3> fHandles;
+  std::vector<std::byte> fBytes;
+};
+
+}  // namespace
+
+// It runs when it belongs to the job, so that nothing of it outlives this process.
+StartedProcess Start(const std::filesystem::path& program, const std::vector<std::string>& words,
+                     bool hasInput) {
+  const Handle input = MakeInput(hasInput);
+  Pipe output = MakePipe();
+  Pipe errors = MakePipe();
+  Inheritance inheritance({input.Get(), output.write.Get(), errors.write.Get()});
+  STARTUPINFOEXW start{};
+  start.StartupInfo.cb = sizeof start;
+  start.StartupInfo.dwFlags = STARTF_USESTDHANDLES;
+  start.StartupInfo.hStdInput = input.Get();
+  start.StartupInfo.hStdOutput = output.write.Get();
+  start.StartupInfo.hStdError = errors.write.Get();
+  start.lpAttributeList = inheritance.List();
+  Handle job = MakeJob();
+  std::wstring line = LineOf(program, words);
+  PROCESS_INFORMATION started{};
+  if (::CreateProcessW(program.c_str(), line.data(), nullptr, nullptr, TRUE,
+                       CREATE_SUSPENDED | EXTENDED_STARTUPINFO_PRESENT, nullptr, nullptr,
+                       &start.StartupInfo, &started) == 0) {
+    FailBy();
+  }
+  Handle process(started.hProcess);
+  const Handle thread(started.hThread);
+  if (::AssignProcessToJobObject(job.Get(), process.Get()) == 0) {
+    const DWORD error = ::GetLastError();
+    ::TerminateProcess(process.Get(), 1);
+    FailBy(error);
+  }
+  ::ResumeThread(thread.Get());
+  return {std::move(job), std::move(process), std::move(output.read), std::move(errors.read)};
+}
+
+}  // namespace strake::os
