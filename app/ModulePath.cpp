@@ -12,7 +12,7 @@ namespace {
 
 // From the command's folder: beside it, as built, as installed.
 constexpr std::array<const char*, 3> kPlaces{".", "../lib", STRAKE_BIN_TO_LIB};
-constexpr const char* kModule = "strake.so";
+constexpr const char* kModule = STRAKE_MODULE;
 
 }  // namespace
 

@@ -7,6 +7,7 @@
 #include "app/PropertyFilter.h"
 #include "app/QueryPlan.h"
 #include "cim/Catalogue.h"
+#include "os/FileName.h"
 #include "text/OrList.h"
 
 #include <algorithm>
@@ -118,11 +119,12 @@ void AddInput(Subcommand& app, CollectOptions& options) {
 
 void AddInputs(Subcommand& app, CollectOptions& options) {
   const Option servers =
-      app.AddValue(
-             "--server", "FILE",
-             "The server description (*.server.json); several (repeatable) with --format "
-             "jsonl, each collected in a process of its own",
-             [&options](const std::string& value) { options.many.servers.emplace_back(value); })
+      app.AddValue("--server", "FILE",
+                   "The server description (*.server.json); several (repeatable) with --format "
+                   "jsonl, each collected in a process of its own",
+                   [&options](const std::string& value) {
+                     options.many.servers.push_back(os::FileNamed(value));
+                   })
           .NamesFile()
           .Repeatable();
   AddDemoAndPlugin(app, options, servers);

@@ -26,7 +26,7 @@ void RunStep(const std::string& name, const Step& step) {
 
 }  // namespace
 
-void Attach(platform::HostSession& session, platform::ModuleEntry entry) {
+void Attach(platform::HostSession& session, const platform::ModuleEntry& entry) {
   RunStep("attaching", [&] { session.Attach(entry); });
 }
 
