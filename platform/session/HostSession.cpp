@@ -37,12 +37,14 @@ HostSession::~HostSession() {
   SetLogSink({});
 }
 
-void HostSession::Attach(ModuleEntry entry) {
+void HostSession::Attach(const ModuleEntry& entry) {
   if (fEntry != nullptr) {
     throw SessionError("a module is attached already");
   }
   ForgetPlugin();
+  ForgetFailedAssertion();
   if (entry(kProcessAttach) == 0) {
+    RethrowFailedAssertion();
     throw SessionError("the module's entry reports a failure");
   }
   fPlugin = RegisteredPlugin();
