@@ -14,6 +14,7 @@ if(STRAKE_HAS_CF_PROTECTION)
   target_compile_options(strake_flags INTERFACE -fcf-protection)
 endif()
 if(WIN32)
+  target_link_options(strake_flags INTERFACE -fstack-protector-strong)
   # Any address of 64 bits, and no data that is run.
   target_link_options(strake_flags INTERFACE
     -Wl,--dynamicbase,--high-entropy-va,--nxcompat)
