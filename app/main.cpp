@@ -52,6 +52,7 @@ int Fail(const char* text, int status) {
 
 CommandLine ParseWords(const std::vector<std::string>& words) {
   std::vector<const char*> texts;
+  texts.reserve(words.size());
   for (const std::string& word : words) {
     texts.push_back(word.c_str());
   }

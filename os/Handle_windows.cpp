@@ -14,7 +14,7 @@ struct ErrorRow {
   int posix;
 };
 
-constexpr std::array<ErrorRow, 22> kErrors{{
+constexpr std::array<ErrorRow, 23> kErrors{{
     {ERROR_FILE_NOT_FOUND, ENOENT},      {ERROR_PATH_NOT_FOUND, ENOENT},
     {ERROR_INVALID_NAME, ENOENT},        {ERROR_BAD_PATHNAME, ENOENT},
     {ERROR_BAD_NETPATH, ENOENT},         {ERROR_INVALID_DRIVE, ENOENT},
@@ -26,6 +26,7 @@ constexpr std::array<ErrorRow, 22> kErrors{{
     {ERROR_TOO_MANY_OPEN_FILES, EMFILE}, {ERROR_NOT_ENOUGH_MEMORY, ENOMEM},
     {ERROR_OUTOFMEMORY, ENOMEM},         {ERROR_INVALID_HANDLE, EBADF},
     {ERROR_BROKEN_PIPE, EPIPE},          {ERROR_NO_DATA, EPIPE},
+    {ERROR_PIPE_NOT_CONNECTED, EPIPE},
 }};
 
 std::error_code CodeOf(DWORD error) {
@@ -76,6 +77,10 @@ DWORD WriteAll(HANDLE handle, const char* bytes, std::size_t count) noexcept {
     rest.remove_prefix(written);
   }
   return 0;
+}
+
+bool IsClosedPipe(DWORD error) {
+  return CodeOf(error) == std::error_code(EPIPE, std::generic_category());
 }
 
 std::string ErrorText(DWORD error) {

@@ -41,6 +41,9 @@ HANDLE StandardHandle(int descriptor) noexcept;
 // Gives the error, 0 when everything is written.
 DWORD WriteAll(HANDLE handle, const char* bytes, std::size_t count) noexcept;
 
+// Of a write: whoever read it is gone.
+bool IsClosedPipe(DWORD error);
+
 // Errors that POSIX has, too, in its words; others in the system's.
 std::string ErrorText(DWORD error);
 // std::system_error of the last or this error.

@@ -59,6 +59,8 @@ LoadableModule::~LoadableModule() { dlclose(fLibrary); }
 
 void* LoadableModule::Find(const char* symbol) const { return dlsym(fLibrary, symbol); }
 
+// What is told is the module, which changes.
+// NOLINTNEXTLINE(readability-make-member-function-const)
 int LoadableModule::Notify(const char* entry, unsigned int reason) {
   return reinterpret_cast<int (*)(unsigned int)>(Find(entry))(reason);
 }

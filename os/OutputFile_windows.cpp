@@ -168,8 +168,7 @@ void OutputFile::State::Complete() {
     fStaged->Discard();
   }
   fTarget.existing.Close();
-  if ((fError == ERROR_BROKEN_PIPE || fError == ERROR_NO_DATA) &&
-      NamedDescriptor(fName) == kStandardOutput) {
+  if (IsClosedPipe(fError) && NamedDescriptor(fName) == kStandardOutput) {
     EndByClosedPipe();
   }
   if (fError != 0) {
@@ -188,7 +187,7 @@ void OutputFile::Complete() { fState->Complete(); }
 
 void WriteStandardOutput(std::string_view bytes) {
   const DWORD error = WriteAll(StandardHandle(kStandardOutput), bytes.data(), bytes.size());
-  if (error == ERROR_BROKEN_PIPE || error == ERROR_NO_DATA) {
+  if (IsClosedPipe(error)) {
     EndByClosedPipe();
   }
   if (error != 0) {

@@ -3,31 +3,34 @@
 namespace strake::os {
 namespace {
 
-// The latest that has entered; null: nothing is unfinished.
-Unfinished*& First() noexcept {
-  static Unfinished* first = nullptr;
-  return first;
+struct List {
+  Unfinished* first = nullptr;  // the latest that has entered
+};
+
+List& TheList() noexcept {
+  static List list;
+  return list;
 }
 
 }  // namespace
 
 void Unfinished::EndAll() noexcept {
-  while (First() != nullptr) {
-    Unfinished* const one = First();
-    First() = one->fNext;
+  while (TheList().first != nullptr) {
+    Unfinished* const one = TheList().first;
+    TheList().first = one->fNext;
     one->EndBySignal();
   }
 }
 
 void Unfinished::Enter() noexcept {
   const SignalHold hold;
-  fNext = First();
-  First() = this;
+  fNext = TheList().first;
+  TheList().first = this;
 }
 
 void Unfinished::Leave() noexcept {
   const SignalHold hold;
-  Unfinished** link = &First();
+  Unfinished** link = &TheList().first;
   while (*link != nullptr && *link != this) {
     link = &(*link)->fNext;
   }
