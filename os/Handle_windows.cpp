@@ -36,20 +36,24 @@ std::error_code CodeOf(DWORD error) {
 }
 
 // Its texts call what the error is about %1.
-std::wstring SystemText(DWORD error) {
+std::string SystemText(DWORD error) {
   wchar_t* text = nullptr;
   const DWORD length = ::FormatMessageW(
       FORMAT_MESSAGE_ALLOCATE_BUFFER | FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS,
       nullptr, error, MAKELANGID(LANG_ENGLISH, SUBLANG_ENGLISH_US), reinterpret_cast<LPWSTR>(&text),
       0, nullptr);
   const std::unique_ptr<wchar_t, decltype(&::LocalFree)> owner(text, &::LocalFree);
-  std::wstring line(text, text == nullptr ? 0 : length);
-  while (!line.empty() && (line.back() <= L' ' || line.back() == L'.')) {
+  if (text == nullptr) {
+    return "error " + std::to_string(error);
+  }
+  std::string line = ToUtf8({text, length});
+  while (line.ends_with(' ') || line.ends_with('.') || line.ends_with('\r') ||
+         line.ends_with('\n')) {
     line.pop_back();
   }
-  constexpr std::wstring_view kInsert = L"%1";
-  if (const std::size_t place = line.find(kInsert); place != std::wstring::npos) {
-    line.replace(place, kInsert.size(), L"the file");
+  constexpr std::string_view kInsert = "%1";
+  if (const std::size_t place = line.find(kInsert); place != std::string::npos) {
+    line.replace(place, kInsert.size(), "the file");
   }
   return line;
 }
@@ -85,11 +89,7 @@ bool IsClosedPipe(DWORD error) {
 
 std::string ErrorText(DWORD error) {
   const std::error_code code = CodeOf(error);
-  if (code.category() == std::generic_category()) {
-    return code.message();
-  }
-  const std::wstring text = SystemText(error);
-  return text.empty() ? "error " + std::to_string(error) : ToUtf8(text);
+  return code.category() == std::generic_category() ? code.message() : SystemText(error);
 }
 
 void FailBy(DWORD error) { throw std::system_error(CodeOf(error)); }
@@ -97,9 +97,9 @@ void FailBy(DWORD error) { throw std::system_error(CodeOf(error)); }
 std::string ToUtf8(std::wstring_view text) {
   const auto count = static_cast<int>(text.size());
   std::string utf8(text.size() * 3, '\0');
-  utf8.resize(static_cast<std::size_t>(
-      ::WideCharToMultiByte(CP_UTF8, 0, text.data(), count, utf8.data(),
-                            static_cast<int>(utf8.size()), nullptr, nullptr)));
+  const int size = ::WideCharToMultiByte(CP_UTF8, 0, text.data(), count, utf8.data(),
+                                         static_cast<int>(utf8.size()), nullptr, nullptr);
+  utf8.resize(static_cast<std::size_t>(size));
   return utf8;
 }
 

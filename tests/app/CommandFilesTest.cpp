@@ -204,6 +204,17 @@ TEST_F(CommandFilesTest, EndsARunWhoseModuleFailsBesideItsQueries) {
   }
 }
 
+TEST_F(CommandFilesTest, NamesTheHostsAssertionOfAModuleThatAttaches) {
+  const Outcome outcome = Command({"collect", "--plugin", HostileModule()})
+                              .Environment("STRAKE_HOSTILE=attach handle")
+                              .Run();
+  EXPECT_EQ(outcome.status, 1);
+  EXPECT_EQ(outcome.out, "");
+  EXPECT_EQ(outcome.err.find("strake: attaching ended with an exception: px != 0 failed in "), 0U);
+  EXPECT_NE(outcome.err.find(", line 315\n"), std::string::npos);
+  EXPECT_TRUE(IsOneLine(outcome.err));
+}
+
 TEST_F(CommandFilesTest, NamesTheHostsAssertion) {
   const Outcome outcome =
       CollectHostile({"--query", "VELKSG_Unheard", "--log-level", "0", "--quiet"});
