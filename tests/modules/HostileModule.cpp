@@ -1,7 +1,7 @@
 // A plug-in module for the command's tests: what its query does, the requested
-// class says; "STRAKE_HOSTILE=STEP int" or "... memory" makes another step throw, "... handle"
-// lets it use an empty handle. A class of the
-// schema gives one instance whose text no terminal should obey.
+// class says; "STRAKE_HOSTILE=STEP int" or "... memory" makes another step throw,
+// "... handle" lets it use an empty handle. A class of the schema gives one
+// instance whose text no terminal should obey.
 #include "plugin/frame/ModuleEntry.h"
 #include "plugin/host/Handle.h"
 #include "plugin/host/TRootObject.h"
