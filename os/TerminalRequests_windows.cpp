@@ -40,6 +40,6 @@ TerminalRequest TerminalRequests::Wait(Clock::time_point until) const {
 }
 
 // Nothing stops a process here.
-void TerminalRequests::Stop() const {}
+void TerminalRequests::Stop() {}
 
 }  // namespace strake::os
