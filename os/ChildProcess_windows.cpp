@@ -11,11 +11,13 @@
 namespace strake::os {
 namespace {
 
-// No less than a pipe holds: one piece is all that is left of a child that ended.
-constexpr std::size_t kPiece = kPipeSize;
-
-// How often pipes are looked at: nothing tells of what is written to them.
-constexpr std::chrono::milliseconds kStep{5};
+// What is left until then, and no more than a wait can be told.
+DWORD Milliseconds(ChildProcess::Clock::time_point until) {
+  constexpr std::chrono::milliseconds kMost(INFINITE - 1);
+  const auto left =
+      std::chrono::ceil<std::chrono::milliseconds>(until - ChildProcess::Clock::now());
+  return static_cast<DWORD>(std::clamp(left, std::chrono::milliseconds(0), kMost).count());
+}
 
 // Statuses from here on are the system's: what ended the process.
 constexpr DWORD kFirstFailure = 0xC0000000;
@@ -29,42 +31,115 @@ ChildEnd EndOf(DWORD status) {
   return {std::nullopt, text.str()};
 }
 
-// What a child writes to.
-struct Stream {
-  Handle pipe;
+// Where the system tells that something was read or a child ended. What it tells
+// is no more than that: whoever waits looks at all of its children.
+HANDLE News() {
+  static const Handle port(::CreateIoCompletionPort(INVALID_HANDLE_VALUE, nullptr, 0, 1));
+  if (!port.IsOpen()) {
+    FailBy();
+  }
+  return port.Get();
+}
+
+// What a child writes to: one read of it is always under way.
+class Stream {
+ public:
+  explicit Stream(Handle pipe);
+  Stream(const Stream&) = delete;
+  Stream& operator=(const Stream&) = delete;
+  ~Stream() { Stop(); }
+
+  // What was read meanwhile; false: nothing.
+  bool Advance();
+  // All that is there, of a child that has ended.
+  void Finish();
+
   std::string text;
 
-  // A piece of what is there, without waiting; false: there is nothing.
-  bool Read();
+ private:
+  void Begin();
+  // Ends the read that is under way.
+  void Stop();
+  // What the read brought.
+  void Take(DWORD count);
+
+  Handle fPipe;
+  Handle fDone;
+  OVERLAPPED fRead{};
+  std::array<char, kPipeSize> fPiece{};
 };
 
-bool Stream::Read() {
-  DWORD ready = 0;
-  if (!pipe.IsOpen()) {
+Stream::Stream(Handle pipe)
+    : fPipe(std::move(pipe)), fDone(::CreateEventW(nullptr, TRUE, FALSE, nullptr)) {
+  if (!fDone.IsOpen() || ::CreateIoCompletionPort(fPipe.Get(), News(), 0, 0) == nullptr) {
+    FailBy();
+  }
+  Begin();
+}
+
+// A read that is done at once is told of, too.
+void Stream::Begin() {
+  fRead = {};
+  fRead.hEvent = fDone.Get();
+  if (::ReadFile(fPipe.Get(), fPiece.data(), static_cast<DWORD>(fPiece.size()), nullptr, &fRead) ==
+          0 &&
+      ::GetLastError() != ERROR_IO_PENDING) {
+    fPipe.Close();  // nothing more can come
+  }
+}
+
+void Stream::Take(DWORD count) { text.append(fPiece.data(), count); }
+
+bool Stream::Advance() {
+  if (!fPipe.IsOpen()) {
     return false;
   }
-  if (::PeekNamedPipe(pipe.Get(), nullptr, 0, nullptr, &ready, nullptr) == 0) {
-    pipe.Close();  // nothing more can come
-    return false;
-  }
-  if (ready == 0) {
-    return false;
-  }
-  std::array<char, kPiece> piece{};
   DWORD count = 0;
-  if (::ReadFile(pipe.Get(), piece.data(), std::min<DWORD>(ready, piece.size()), &count, nullptr) ==
-      0) {
+  if (::GetOverlappedResult(fPipe.Get(), &fRead, &count, FALSE) == 0) {
+    if (::GetLastError() != ERROR_IO_INCOMPLETE) {
+      fPipe.Close();
+    }
     return false;
   }
-  text.append(piece.data(), count);
+  Take(count);
+  Begin();
   return true;
+}
+
+void Stream::Stop() {
+  if (fPipe.IsOpen()) {
+    ::CancelIoEx(fPipe.Get(), &fRead);
+    DWORD count = 0;
+    if (::GetOverlappedResult(fPipe.Get(), &fRead, &count, TRUE) != 0) {
+      Take(count);
+    }
+  }
+}
+
+// What it holds, and not what whoever else has the pipe writes meanwhile.
+void Stream::Finish() {
+  Stop();
+  DWORD left = 0;
+  if (fPipe.IsOpen()) {
+    ::PeekNamedPipe(fPipe.Get(), nullptr, 0, nullptr, &left, nullptr);
+  }
+  while (left > 0) {
+    Begin();
+    DWORD count = 0;
+    if (!fPipe.IsOpen() || ::GetOverlappedResult(fPipe.Get(), &fRead, &count, TRUE) == 0) {
+      break;
+    }
+    Take(count);
+    left -= std::min(left, count);
+  }
+  fPipe.Close();
 }
 
 }  // namespace
 
 class ChildProcess::State final : private Unfinished {
  public:
-  State(const std::filesystem::path& program, const std::vector<std::string>& words, Input input);
+  explicit State(StartedProcess started);
   State(const State&) = delete;
   State& operator=(const State&) = delete;
   ~State() override;
@@ -81,20 +156,27 @@ class ChildProcess::State final : private Unfinished {
 
   Handle fJob;
   Handle fProcess;
+  HANDLE fWait = nullptr;
 };
 
-ChildProcess::State::State(const std::filesystem::path& program,
-                           const std::vector<std::string>& words, Input input) {
-  const SignalHold hold;
-  StartedProcess started = Start(program, words, input == Input::Own);
-  fJob = std::move(started.job);
-  fProcess = std::move(started.process);
-  output.pipe = std::move(started.output);
-  errors.pipe = std::move(started.errors);
+VOID CALLBACK TellOfAnEnd(PVOID news, BOOLEAN /*isLate*/) {
+  ::PostQueuedCompletionStatus(news, 0, 0, nullptr);
+}
+
+ChildProcess::State::State(StartedProcess started)
+    : output(std::move(started.output)),
+      errors(std::move(started.errors)),
+      fJob(std::move(started.job)),
+      fProcess(std::move(started.process)) {
+  if (::RegisterWaitForSingleObject(&fWait, fProcess.Get(), TellOfAnEnd, News(), INFINITE,
+                                    WT_EXECUTEONLYONCE | WT_EXECUTEINWAITTHREAD) == 0) {
+    FailBy();
+  }
   Enter();
 }
 
 ChildProcess::State::~State() {
+  ::UnregisterWaitEx(fWait, INVALID_HANDLE_VALUE);
   const SignalHold hold;
   Leave();
   EndBySignal();
@@ -112,24 +194,26 @@ void ChildProcess::State::EndBySignal() noexcept {
 // it wrote comes after.
 bool ChildProcess::State::Advance() {
   const bool hasEnded = ::WaitForSingleObject(fProcess.Get(), 0) == WAIT_OBJECT_0;
-  const bool hasOutput = output.Read();
-  const bool hasErrors = errors.Read();
+  const bool hasOutput = output.Advance();
+  const bool hasErrors = errors.Advance();
   if (hasEnded) {
     const SignalHold hold;
     DWORD status = 0;
     ::GetExitCodeProcess(fProcess.Get(), &status);
     Leave();
     end = EndOf(status);
-    output.pipe.Close();
-    errors.pipe.Close();
+    output.Finish();
+    errors.Finish();
     fProcess.Close();
   }
   return hasEnded || hasOutput || hasErrors;
 }
 
 ChildProcess::ChildProcess(const std::filesystem::path& program,
-                           const std::vector<std::string>& words, Input input)
-    : fState(std::make_unique<State>(program, words, input)) {}
+                           const std::vector<std::string>& words, Input input) {
+  const SignalHold hold;
+  fState = std::make_unique<State>(Start(program, words, input == Input::Own));
+}
 
 ChildProcess::~ChildProcess() = default;
 
@@ -147,7 +231,11 @@ void ChildProcess::Wait(std::span<ChildProcess* const> children,
     if (hasNews || (until && Clock::now() >= *until)) {
       return;
     }
-    ::Sleep(static_cast<DWORD>(kStep.count()));
+    DWORD count = 0;
+    ULONG_PTR key = 0;
+    OVERLAPPED* read = nullptr;
+    ::GetQueuedCompletionStatus(News(), &count, &key, &read,
+                                until ? Milliseconds(*until) : INFINITE);
   }
 }
 

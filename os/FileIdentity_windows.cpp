@@ -1,6 +1,8 @@
 #include "os/FileIdentity.h"
 #include "os/Handle_windows.h"
 
+#include <winternl.h>
+
 namespace strake::os {
 namespace {
 
@@ -70,8 +72,13 @@ FileIdentity IdentityOf(const fs::path& name) {
 }
 
 bool IsOpenForWriting(int descriptor) {
+  constexpr ACCESS_MASK kWrites = FILE_WRITE_DATA | FILE_APPEND_DATA;
+  PUBLIC_OBJECT_BASIC_INFORMATION rights{};
   HANDLE const handle = StandardHandle(descriptor);
-  return handle != nullptr && ::GetFileType(handle) != FILE_TYPE_UNKNOWN;
+  return handle != nullptr && ::GetFileType(handle) != FILE_TYPE_UNKNOWN &&
+         NT_SUCCESS(
+             ::NtQueryObject(handle, ObjectBasicInformation, &rights, sizeof rights, nullptr)) &&
+         (rights.GrantedAccess & kWrites) != 0;
 }
 
 }  // namespace strake::os

@@ -31,6 +31,12 @@ std::wstring UserText() {
   return text;
 }
 
+// Whether the file goes when it is closed, by its process' end, too.
+bool Mark(HANDLE file, BOOLEAN goes) noexcept {
+  FILE_DISPOSITION_INFO mark{.DeleteFile = goes};
+  return ::SetFileInformationByHandle(file, FileDispositionInfo, &mark, sizeof mark) != 0;
+}
+
 }  // namespace
 
 // Protected: nothing is inherited from the folder.
@@ -72,10 +78,12 @@ StagedFile::StagedFile(const std::filesystem::path& folder, const Access& access
   const std::wstring begin = L".strake-" + std::to_wstring(::GetCurrentProcessId()) + L"-";
   for (int number = 0; number < kMostAttempts; ++number) {
     fName = (folder / (begin + std::to_wstring(number))).native();
-    fFile = Handle(::CreateFileW(fName.c_str(), GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_DELETE,
-                                 &attributes, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr));
+    fFile = Handle(::CreateFileW(fName.c_str(), GENERIC_WRITE | DELETE,
+                                 FILE_SHARE_READ | FILE_SHARE_DELETE, &attributes, CREATE_NEW,
+                                 FILE_ATTRIBUTE_NORMAL, nullptr));
     if (fFile.IsOpen()) {
       fIsThere = true;
+      Mark(fFile.Get(), TRUE);
       return;
     }
     if (::GetLastError() != ERROR_FILE_EXISTS) {
@@ -85,9 +93,12 @@ StagedFile::StagedFile(const std::filesystem::path& folder, const Access& access
   FailBy();
 }
 
-// Its bytes are on the disk then.
+// Its bytes are on the disk then, and it has its name.
 DWORD StagedFile::Close() noexcept {
-  const DWORD error = fFile.IsOpen() && ::FlushFileBuffers(fFile.Get()) == 0 ? ::GetLastError() : 0;
+  const DWORD error =
+      fFile.IsOpen() && (::FlushFileBuffers(fFile.Get()) == 0 || !Mark(fFile.Get(), FALSE))
+          ? ::GetLastError()
+          : 0;
   fFile.Close();
   return error;
 }

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <string_view>
+#include <utility>
 
 namespace strake::os {
 namespace {
@@ -22,15 +23,26 @@ Handle Inherited(HANDLE handle) {
   return Handle(copy);
 }
 
-// The end that is written to goes to the child.
+// The end that is written to goes to the child. The other one is read while
+// something else is done, which a pipe needs a name for.
 Pipe MakePipe() {
-  HANDLE read = nullptr;
-  HANDLE write = nullptr;
-  if (::CreatePipe(&read, &write, nullptr, kPipeSize) == 0) {
+  static LONG volatile count = 0;
+  const std::wstring name = L"\\\\.\\pipe\\strake-" + std::to_wstring(::GetCurrentProcessId()) +
+                            L"-" + std::to_wstring(::InterlockedIncrement(&count));
+  Handle read(::CreateNamedPipeW(
+      name.c_str(), PIPE_ACCESS_INBOUND | FILE_FLAG_FIRST_PIPE_INSTANCE | FILE_FLAG_OVERLAPPED,
+      PIPE_TYPE_BYTE | PIPE_WAIT | PIPE_REJECT_REMOTE_CLIENTS, 1, 0, kPipeSize, 0, nullptr));
+  if (!read.IsOpen()) {
     FailBy();
   }
-  const Handle own(write);
-  return {Handle(read), Inherited(write)};
+  SECURITY_ATTRIBUTES inherited{
+      .nLength = sizeof inherited, .lpSecurityDescriptor = nullptr, .bInheritHandle = TRUE};
+  Handle write(
+      ::CreateFileW(name.c_str(), GENERIC_WRITE, 0, &inherited, OPEN_EXISTING, 0, nullptr));
+  if (!write.IsOpen()) {
+    FailBy();
+  }
+  return {std::move(read), std::move(write)};
 }
 
 Handle MakeInput(bool hasInput) {
