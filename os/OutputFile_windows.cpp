@@ -49,8 +49,12 @@ Target OpenTarget(const fs::path& name) {
     return target;
   }
   std::error_code ignored;
-  if (name.filename().empty() || fs::is_directory(name, ignored)) {
+  if (fs::is_directory(name, ignored)) {
     throw std::system_error(EISDIR, std::generic_category());
+  }
+  if (name.filename().empty()) {
+    const bool isFile = fs::exists(name.parent_path(), ignored);
+    throw std::system_error(isFile ? ENOTDIR : ENOENT, std::generic_category());
   }
   target.name = FullName(name);
   target.existing = OpenForWriting(target.name.c_str());
