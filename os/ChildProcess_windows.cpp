@@ -41,6 +41,10 @@ HANDLE News() {
   return port.Get();
 }
 
+VOID CALLBACK TellOfAnEnd(PVOID news, BOOLEAN /*isLate*/) {
+  ::PostQueuedCompletionStatus(news, 0, 0, nullptr);
+}
+
 // What a child writes to: one read of it is always under way.
 class Stream {
  public:
@@ -58,10 +62,9 @@ class Stream {
 
  private:
   void Begin();
-  // Ends the read that is under way.
-  void Stop();
-  // What the read brought.
-  void Take(DWORD count);
+  // Ends the read that is under way, and gives how much it brought.
+  DWORD Stop() noexcept;
+  void Take(DWORD count) { text.append(fPiece.data(), count); }
 
   Handle fPipe;
   Handle fDone;
@@ -88,8 +91,6 @@ void Stream::Begin() {
   }
 }
 
-void Stream::Take(DWORD count) { text.append(fPiece.data(), count); }
-
 bool Stream::Advance() {
   if (!fPipe.IsOpen()) {
     return false;
@@ -106,32 +107,21 @@ bool Stream::Advance() {
   return true;
 }
 
-void Stream::Stop() {
+DWORD Stream::Stop() noexcept {
+  DWORD count = 0;
   if (fPipe.IsOpen()) {
     ::CancelIoEx(fPipe.Get(), &fRead);
-    DWORD count = 0;
-    if (::GetOverlappedResult(fPipe.Get(), &fRead, &count, TRUE) != 0) {
-      Take(count);
+    if (::GetOverlappedResult(fPipe.Get(), &fRead, &count, TRUE) == 0) {
+      count = 0;
     }
   }
+  return count;
 }
 
-// What it holds, and not what whoever else has the pipe writes meanwhile.
+// The read that is under way took what was left: a piece is no less than a pipe
+// holds. What whoever else has the pipe writes later is not waited for.
 void Stream::Finish() {
-  Stop();
-  DWORD left = 0;
-  if (fPipe.IsOpen()) {
-    ::PeekNamedPipe(fPipe.Get(), nullptr, 0, nullptr, &left, nullptr);
-  }
-  while (left > 0) {
-    Begin();
-    DWORD count = 0;
-    if (!fPipe.IsOpen() || ::GetOverlappedResult(fPipe.Get(), &fRead, &count, TRUE) == 0) {
-      break;
-    }
-    Take(count);
-    left -= std::min(left, count);
-  }
+  Take(Stop());
   fPipe.Close();
 }
 
@@ -153,15 +143,13 @@ class ChildProcess::State final : private Unfinished {
 
  private:
   void EndBySignal() noexcept override;
+  // The system looks for its end no longer, which must come before the handle goes.
+  void Unregister() noexcept;
 
   Handle fJob;
   Handle fProcess;
   HANDLE fWait = nullptr;
 };
-
-VOID CALLBACK TellOfAnEnd(PVOID news, BOOLEAN /*isLate*/) {
-  ::PostQueuedCompletionStatus(news, 0, 0, nullptr);
-}
 
 ChildProcess::State::State(StartedProcess started)
     : output(std::move(started.output)),
@@ -175,8 +163,14 @@ ChildProcess::State::State(StartedProcess started)
   Enter();
 }
 
+void ChildProcess::State::Unregister() noexcept {
+  if (fWait != nullptr) {
+    ::UnregisterWaitEx(std::exchange(fWait, nullptr), INVALID_HANDLE_VALUE);
+  }
+}
+
 ChildProcess::State::~State() {
-  ::UnregisterWaitEx(fWait, INVALID_HANDLE_VALUE);
+  Unregister();
   const SignalHold hold;
   Leave();
   EndBySignal();
@@ -204,6 +198,7 @@ bool ChildProcess::State::Advance() {
     end = EndOf(status);
     output.Finish();
     errors.Finish();
+    Unregister();
     fProcess.Close();
   }
   return hasEnded || hasOutput || hasErrors;

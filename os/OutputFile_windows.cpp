@@ -49,7 +49,7 @@ Target OpenTarget(const fs::path& name) {
     return target;
   }
   std::error_code ignored;
-  if (fs::is_directory(name, ignored)) {
+  if (name.empty() || fs::is_directory(name, ignored)) {
     throw std::system_error(EISDIR, std::generic_category());
   }
   if (name.filename().empty()) {

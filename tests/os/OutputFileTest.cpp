@@ -65,7 +65,7 @@ TEST(OutputFile, NamesTheReasonWhereNoFileCanBe) {
             "cannot write " + folder.Path().string() + ": Is a directory");
   EXPECT_EQ(FailureOf(folder / "absent/"),
             "cannot write " + (folder / "absent/") + ": No such file or directory");
-  EXPECT_EQ(FailureOf(""), "cannot write : No such file or directory");
+  EXPECT_EQ(FailureOf(""), "cannot write : Is a directory");
   const std::string file = folder.Write("file", "");
   EXPECT_EQ(FailureOf(file + "/"), "cannot write " + file + "/: Not a directory");
   EXPECT_EQ(folder.Names(), Names{"file"});
