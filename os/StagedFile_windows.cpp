@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <memory>
 #include <sddl.h>
+#include <utility>
 #include <vector>
 
 namespace strake::os {
@@ -83,7 +84,7 @@ StagedFile::StagedFile(const std::filesystem::path& folder, const Access& access
                                  FILE_ATTRIBUTE_NORMAL, nullptr));
     if (fFile.IsOpen()) {
       fIsThere = true;
-      Mark(fFile.Get(), TRUE);
+      fIsMarked = Mark(fFile.Get(), TRUE);
       return;
     }
     if (::GetLastError() != ERROR_FILE_EXISTS) {
@@ -95,10 +96,11 @@ StagedFile::StagedFile(const std::filesystem::path& folder, const Access& access
 
 // Its bytes are on the disk then, and it has its name.
 DWORD StagedFile::Close() noexcept {
-  const DWORD error =
-      fFile.IsOpen() && (::FlushFileBuffers(fFile.Get()) == 0 || !Mark(fFile.Get(), FALSE))
-          ? ::GetLastError()
-          : 0;
+  DWORD error = 0;
+  if (fFile.IsOpen() && (::FlushFileBuffers(fFile.Get()) == 0 ||
+                         (std::exchange(fIsMarked, false) && !Mark(fFile.Get(), FALSE)))) {
+    error = ::GetLastError();
+  }
   fFile.Close();
   return error;
 }

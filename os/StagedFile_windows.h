@@ -55,6 +55,7 @@ class StagedFile {
 
   std::wstring fName;
   bool fIsThere = false;
+  bool fIsMarked = false;  // it goes when it is closed; not every file system can
   Handle fFile;
 };
 
