@@ -1,6 +1,7 @@
 #include "os/DebugListener_windows.h"
 
 #include <new>
+#include <utility>
 
 namespace strake::os {
 namespace {
@@ -13,14 +14,14 @@ DebugListener*& TheListener() {
 }  // namespace
 
 DebugListener::DebugListener(std::string_view head)
-    : fHead(head), fThread(::GetCurrentThreadId()), fHandler(nullptr) {
-  TheListener() = this;
-  fHandler = ::AddVectoredExceptionHandler(1, OnException);
-}
+    : fHead(head),
+      fThread(::GetCurrentThreadId()),
+      fOuter(std::exchange(TheListener(), this)),
+      fHandler(::AddVectoredExceptionHandler(1, OnException)) {}
 
 DebugListener::~DebugListener() {
   ::RemoveVectoredExceptionHandler(fHandler);
-  TheListener() = nullptr;
+  TheListener() = fOuter;
 }
 
 // What is told to debuggers arrives as an exception of its own kind: the length,

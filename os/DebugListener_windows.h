@@ -11,7 +11,8 @@ namespace strake::os {
 
 class DebugListener {
  public:
-  // To what begins with the head, which must outlive this. One lives at a time.
+  // To what begins with the head, which must outlive this. While another one lives
+  // within its life, that one listens instead.
   explicit DebugListener(std::string_view head);
   DebugListener(const DebugListener&) = delete;
   DebugListener& operator=(const DebugListener&) = delete;
@@ -27,6 +28,7 @@ class DebugListener {
   std::string_view fHead;
   std::optional<std::string> fHeard;
   DWORD fThread;
+  DebugListener* fOuter;
   void* fHandler;
 };
 
