@@ -97,7 +97,7 @@ ChildProcess::State::State(const std::filesystem::path& program,
 ChildProcess::State::~State() {
   const SignalHold hold;
   Leave();
-  EndBySignal();
+  State::EndBySignal();
 }
 
 void ChildProcess::State::EndBySignal() noexcept {
