@@ -15,9 +15,9 @@ if(STRAKE_HAS_CF_PROTECTION)
 endif()
 if(WIN32)
   target_link_options(strake_flags INTERFACE -fstack-protector-strong)
-  # Any address of 64 bits, and no data that is run.
+  # Any address of 64 bits, no data that is run, and no time of linking.
   target_link_options(strake_flags INTERFACE
-    -Wl,--dynamicbase,--high-entropy-va,--nxcompat)
+    -Wl,--dynamicbase,--high-entropy-va,--nxcompat,--no-insert-timestamp)
 else()
   # What the loader resolves is resolved at the start and read-only from then on.
   target_link_options(strake_flags INTERFACE -Wl,-z,relro,-z,now,-z,noexecstack)

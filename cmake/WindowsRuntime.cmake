@@ -10,7 +10,9 @@ foreach(name libgcc_s_seh-1.dll libssp-0.dll libstdc++-6.dll libwinpthread-1.dll
   endif()
   set(copy ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/${name})
   add_custom_command(OUTPUT ${copy}
-    COMMAND ${CMAKE_STRIP} --strip-unneeded -o ${copy} ${file} DEPENDS ${file} VERBATIM)
+    # The time that strip writes into a library's header.
+    COMMAND ${CMAKE_COMMAND} -E env SOURCE_DATE_EPOCH=0
+            ${CMAKE_STRIP} --strip-unneeded -o ${copy} ${file} DEPENDS ${file} VERBATIM)
   list(APPEND runtime ${copy})
 endforeach()
 add_custom_target(strake_runtime ALL DEPENDS ${runtime})

@@ -173,7 +173,7 @@ ChildProcess::State::~State() {
   Unregister();
   const SignalHold hold;
   Leave();
-  EndBySignal();
+  State::EndBySignal();
 }
 
 void ChildProcess::State::EndBySignal() noexcept {

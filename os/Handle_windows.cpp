@@ -65,7 +65,7 @@ HANDLE StandardHandle(int descriptor) noexcept {
   if (descriptor < 0 || static_cast<std::size_t>(descriptor) >= kNames.size()) {
     return nullptr;
   }
-  HANDLE const handle = ::GetStdHandle(kNames[static_cast<std::size_t>(descriptor)]);
+  HANDLE const handle = ::GetStdHandle(kNames.at(static_cast<std::size_t>(descriptor)));
   return handle == INVALID_HANDLE_VALUE ? nullptr : handle;
 }
 

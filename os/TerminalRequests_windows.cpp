@@ -9,7 +9,7 @@ namespace strake::os {
 namespace {
 
 // A console tells of its size only who reads its keys.
-constexpr std::chrono::milliseconds kLook{100};
+constexpr std::chrono::milliseconds kInterval{100};
 
 std::pair<std::size_t, std::size_t> Size() {
   const std::optional<TerminalSize> size = StandardOutputSize();
@@ -35,7 +35,7 @@ TerminalRequest TerminalRequests::Wait(Clock::time_point until) const {
     if (left.count() <= 0) {
       return TerminalRequest::None;
     }
-    ::Sleep(static_cast<DWORD>(std::min(left, kLook).count()));
+    ::Sleep(static_cast<DWORD>(std::min(left, kInterval).count()));
   }
 }
 

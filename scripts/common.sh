@@ -35,6 +35,22 @@ bad_usage() {
   exit 2
 }
 
+# finding WHERE WHAT: a line of what a check found, and their count.
+findings=0
+finding() {
+  printf '%s: %s\n' "$1" "$2"
+  findings=$((findings + 1))
+}
+
+# check_names FILE FOLDER: finds the tree's and the build's folders named in it.
+check_names() {
+  local places place
+  mapfile -t places < <({ realpath -- "$root" "$2" && echo "$root"; } | sort -u)
+  for place in "${places[@]}"; do
+    ! grep -qaF -- "$place/" "$1" || finding "$1" "names the folder $place"
+  done
+}
+
 # The text that a script begins with, up to its first command.
 usage_of() { sed -n '2,/^set /{/^set /d;s/^# \{0,1\}//;p}' -- "$1"; }
 
