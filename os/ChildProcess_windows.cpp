@@ -34,11 +34,11 @@ ChildEnd EndOf(DWORD status) {
 // Where the system tells that something was read or a child ended. What it tells
 // is no more than that: whoever waits looks at all of its children.
 HANDLE News() {
-  static const Handle port(::CreateIoCompletionPort(INVALID_HANDLE_VALUE, nullptr, 0, 1));
-  if (!port.IsOpen()) {
+  static const Handle kPort(::CreateIoCompletionPort(INVALID_HANDLE_VALUE, nullptr, 0, 1));
+  if (!kPort.IsOpen()) {
     FailBy();
   }
-  return port.Get();
+  return kPort.Get();
 }
 
 VOID CALLBACK TellOfAnEnd(PVOID news, BOOLEAN /*isLate*/) {
@@ -129,7 +129,7 @@ void Stream::Finish() {
 
 class ChildProcess::State final : private Unfinished {
  public:
-  explicit State(StartedProcess started);
+  explicit State(StartedProcess&& started);
   State(const State&) = delete;
   State& operator=(const State&) = delete;
   ~State() override;
@@ -151,7 +151,7 @@ class ChildProcess::State final : private Unfinished {
   HANDLE fWait = nullptr;
 };
 
-ChildProcess::State::State(StartedProcess started)
+ChildProcess::State::State(StartedProcess&& started)
     : output(std::move(started.output)),
       errors(std::move(started.errors)),
       fJob(std::move(started.job)),
@@ -207,6 +207,7 @@ bool ChildProcess::State::Advance() {
 ChildProcess::ChildProcess(const std::filesystem::path& program,
                            const std::vector<std::string>& words, Input input) {
   const SignalHold hold;
+  // cppcheck-suppress useInitializationList; the hold comes first
   fState = std::make_unique<State>(Start(program, words, input == Input::Own));
 }
 

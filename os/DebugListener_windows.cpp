@@ -6,9 +6,13 @@
 namespace strake::os {
 namespace {
 
+struct Current {
+  DebugListener* listener = nullptr;
+};
+
 DebugListener*& TheListener() {
-  static DebugListener* listener = nullptr;
-  return listener;
+  static Current current;
+  return current.listener;
 }
 
 }  // namespace
@@ -32,6 +36,7 @@ LONG CALLBACK DebugListener::OnException(EXCEPTION_POINTERS* exception) {
   if (listener != nullptr && record.ExceptionCode == DBG_PRINTEXCEPTION_C &&
       record.NumberParameters >= 2 && record.ExceptionInformation[0] > 0 &&
       ::GetCurrentThreadId() == listener->fThread) {
+    // NOLINTNEXTLINE(performance-no-int-to-ptr): the system has it as a number
     listener->Hear({reinterpret_cast<const char*>(record.ExceptionInformation[1]),
                     record.ExceptionInformation[0] - 1});
   }
