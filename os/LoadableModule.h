@@ -25,7 +25,8 @@ class LoadableModule {
 
   // Tells the module through its entry that it joins the process (1) or leaves it
   // (0), and gives its answer. Windows' loader does this itself: there the module
-  // is only looked at before it joins, and telling it is loading and unloading.
+  // is only looked at before it joins, and telling it is loading and unloading; of
+  // an exception out of the entry, this throws one with its text or one without.
   int Notify(const char* entry, unsigned int reason);
 
  private:

@@ -1,9 +1,13 @@
+#include "os/DebugListener_windows.h"
 #include "os/Handle_windows.h"
 #include "os/LoadableModule.h"
 #include "text/TextEscape.h"
 
+#include <optional>
+#include <stdexcept>
 #include <string>
 #include <system_error>
+#include <utility>
 
 namespace strake::os {
 namespace {
@@ -23,7 +27,7 @@ HMODULE Load(const std::wstring& name, DWORD how) {
   return ::LoadLibraryExW(name.c_str(), nullptr, how);
 }
 
-std::string LoaderReason() { return "is not a loadable module: " + ErrorText(::GetLastError()); }
+std::string LoaderReason(DWORD error) { return "is not a loadable module: " + ErrorText(error); }
 
 std::wstring FileOf(HMODULE library) {
   std::wstring name(MAX_PATH, L'\0');
@@ -36,6 +40,20 @@ std::wstring FileOf(HMODULE library) {
   return name;
 }
 
+// Of an entry that threw something else than a std::exception.
+struct NamelessFailure {};
+
+// What the loader let not pass, from what was told of it.
+void Rethrow(const std::optional<std::string>& told) {
+  constexpr std::string_view kText = ": ";
+  if (told && told->starts_with(kText)) {
+    throw std::runtime_error(told->substr(kText.size()));
+  }
+  if (told) {
+    throw NamelessFailure();
+  }
+}
+
 }  // namespace
 
 LoadableModule::LoadableModule(const std::filesystem::path& file) {
@@ -45,7 +63,7 @@ LoadableModule::LoadableModule(const std::filesystem::path& file) {
   }
   fLibrary = Load(FullName(file), kLook);
   if (fLibrary == nullptr) {
-    Refuse(file.string(), LoaderReason());
+    Refuse(file.string(), LoaderReason(::GetLastError()));
   }
 }
 
@@ -60,18 +78,27 @@ void* LoadableModule::Find(const char* symbol) const {
 }
 
 // What was only looked at is let go first: the loader would take it as it is.
-int LoadableModule::Notify(const char* /*entry*/, unsigned int reason) {
+int LoadableModule::Notify(const char* entry, unsigned int reason) {
   auto* const library = static_cast<HMODULE>(std::exchange(fLibrary, nullptr));
+  const std::string head = std::string(entry) + " ended with an exception";
+  const DebugListener listener(head);
   if (reason != kJoins) {
-    return ::FreeLibrary(library) != 0 ? 1 : 0;
+    const bool isDone = ::FreeLibrary(library) != 0;
+    Rethrow(listener.Heard());
+    return isDone ? 1 : 0;
   }
   const std::wstring file = FileOf(library);
   ::FreeLibrary(library);
   fLibrary = Load(file, kLoad);
-  if (fLibrary == nullptr && ::GetLastError() != ERROR_DLL_INIT_FAILED) {
-    Refuse(ToUtf8(file), LoaderReason());
+  if (fLibrary != nullptr) {
+    return 1;
   }
-  return fLibrary != nullptr ? 1 : 0;
+  const DWORD error = ::GetLastError();
+  Rethrow(listener.Heard());
+  if (error != ERROR_DLL_INIT_FAILED) {
+    Refuse(ToUtf8(file), LoaderReason(error));
+  }
+  return 0;
 }
 
 }  // namespace strake::os

@@ -24,9 +24,4 @@ class AssertionError : public std::logic_error {
   using std::logic_error::logic_error;
 };
 
-// A loader that calls modules itself lets no exception pass: the last one is kept,
-// for whoever sees the module fail.
-void ForgetFailedAssertion();
-void RethrowFailedAssertion();  // nothing when none is kept
-
 }  // namespace strake::platform

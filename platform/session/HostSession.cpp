@@ -42,9 +42,7 @@ void HostSession::Attach(const ModuleEntry& entry) {
     throw SessionError("a module is attached already");
   }
   ForgetPlugin();
-  ForgetFailedAssertion();
   if (entry(kProcessAttach) == 0) {
-    RethrowFailedAssertion();
     throw SessionError("the module's entry reports a failure");
   }
   fPlugin = RegisteredPlugin();
