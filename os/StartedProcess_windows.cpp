@@ -72,16 +72,6 @@ void AppendWord(std::wstring& line, std::wstring_view word) {
   line += L'"';
 }
 
-std::wstring LineOf(const std::filesystem::path& program, const std::vector<std::string>& words) {
-  std::wstring line;
-  AppendWord(line, program.native());
-  for (const std::string& word : words) {
-    line += L' ';
-    AppendWord(line, ToWide(word));
-  }
-  return line;
-}
-
 // The handles that a child gets, and no others.
 class Inheritance {
  public:
@@ -114,6 +104,17 @@ class Inheritance {
 
 }  // namespace
 
+std::wstring CommandLine(const std::filesystem::path& program,
+                         const std::vector<std::string>& words) {
+  std::wstring line;
+  AppendWord(line, program.native());
+  for (const std::string& word : words) {
+    line += L' ';
+    AppendWord(line, ToWide(word));
+  }
+  return line;
+}
+
 // It runs when it belongs to the job, so that nothing of it outlives this process.
 StartedProcess Start(const std::filesystem::path& program, const std::vector<std::string>& words,
                      bool hasInput) {
@@ -129,7 +130,7 @@ StartedProcess Start(const std::filesystem::path& program, const std::vector<std
   start.StartupInfo.hStdError = errors.write.Get();
   start.lpAttributeList = inheritance.List();
   Handle job = MakeJob();
-  std::wstring line = LineOf(program, words);
+  std::wstring line = CommandLine(program, words);
   PROCESS_INFORMATION started{};
   if (::CreateProcessW(program.c_str(), line.data(), nullptr, nullptr, TRUE,
                        CREATE_SUSPENDED | EXTENDED_STARTUPINFO_PRESENT, nullptr, nullptr,
