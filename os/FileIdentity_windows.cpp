@@ -69,6 +69,12 @@ FileIdentity IdentityOf(const fs::path& name) {
   return identity;
 }
 
+bool CanBeReadAgain(const fs::path& name) {
+  std::error_code none;
+  return !IsDeviceName(FullName(name)) &&
+         (!fs::exists(name, none) || fs::is_regular_file(name, none));
+}
+
 bool IsOpenForWriting(int descriptor) {
   HANDLE const handle = StandardHandle(descriptor);
   return handle != nullptr && ::GetFileType(handle) != FILE_TYPE_UNKNOWN;

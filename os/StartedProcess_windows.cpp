@@ -1,9 +1,9 @@
 #include "os/StartedProcess_windows.h"
 
+#include "os/CommandLine_windows.h"
 #include "os/FileIdentity.h"
 
 #include <array>
-#include <string_view>
 
 namespace strake::os {
 namespace {
@@ -56,22 +56,6 @@ Handle MakeJob() {
   return job;
 }
 
-// As the child's command line is taken apart again: a quote in it, and the
-// backslashes before one, stand behind a backslash.
-void AppendWord(std::wstring& line, std::wstring_view word) {
-  line += L'"';
-  std::size_t backslashes = 0;
-  for (const wchar_t character : word) {
-    if (character == L'"') {
-      line.append(backslashes + 1, L'\\');
-    }
-    backslashes = character == L'\\' ? backslashes + 1 : 0;
-    line += character;
-  }
-  line.append(backslashes, L'\\');
-  line += L'"';
-}
-
 // The handles that a child gets, and no others.
 class Inheritance {
  public:
@@ -103,17 +87,6 @@ class Inheritance {
 };
 
 }  // namespace
-
-std::wstring CommandLine(const std::filesystem::path& program,
-                         const std::vector<std::string>& words) {
-  std::wstring line;
-  AppendWord(line, program.native());
-  for (const std::string& word : words) {
-    line += L' ';
-    AppendWord(line, ToWide(word));
-  }
-  return line;
-}
 
 // It runs when it belongs to the job, so that nothing of it outlives this process.
 StartedProcess Start(const std::filesystem::path& program, const std::vector<std::string>& words,

@@ -20,10 +20,6 @@ struct StartedProcess {
   Handle errors;
 };
 
-// One line, that the program takes apart into these words.
-std::wstring CommandLine(const std::filesystem::path& program,
-                         const std::vector<std::string>& words);
-
 // It has the standard input of this process or an empty one, and no other handle
 // of it. Throws std::system_error.
 StartedProcess Start(const std::filesystem::path& program, const std::vector<std::string>& words,

@@ -2,6 +2,7 @@
 #include "tests/app/CommandInitTest.h"
 
 #include "cim/Catalogue.h"
+#include "tests/app/System.h"
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
@@ -80,10 +81,11 @@ TEST_F(CommandInitTest, WritesTheSameToStandardOutputAndToAFile) {
   const std::string text = Init({}).out;
   EXPECT_EQ(Init({"--output", "-"}), (Outcome{0, text, ""}));
   const std::string file = fFolder / "two words";
-  EXPECT_EQ(
-      Init({"--output", file}),
-      (Outcome{0, file + " is written; fill it in, and try it with: strake check '" + file + "'\n",
-               ""}));
+  EXPECT_EQ(Init({"--output", file}),
+            (Outcome{0,
+                     file + " is written; fill it in, and try it with: strake check " +
+                         InQuotes(file) + "\n",
+                     ""}));
   EXPECT_EQ(ReadFile(file), text);
 }
 

@@ -1,4 +1,5 @@
-#include "os/StartedProcess_windows.h"
+#include "os/CommandLine_windows.h"
+#include "os/Handle_windows.h"
 #include "tests/app/Command.h"
 #include "tests/support/Places.h"
 

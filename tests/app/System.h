@@ -9,6 +9,9 @@ namespace strake::tests {
 // The device that takes everything and holds nothing.
 std::string NullDevice();
 
+// A word that a shell would take apart, as commands that are told show it.
+std::string InQuotes(const std::string& word);
+
 // How the module of the tests ends its process by a fault: the status, and what is
 // told of a process that ended so.
 int FaultStatus();

@@ -7,6 +7,8 @@ namespace strake::tests {
 
 std::string NullDevice() { return "/dev/null"; }
 
+std::string InQuotes(const std::string& word) { return '\'' + word + '\''; }
+
 int FaultStatus() { return -SIGABRT; }
 std::string FaultText() { return "its process was ended by signal 6 (Aborted)"; }
 

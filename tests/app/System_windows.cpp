@@ -27,6 +27,8 @@ bool IsTheCommand(DWORD process) {
 
 std::string NullDevice() { return "NUL"; }
 
+std::string InQuotes(const std::string& word) { return '"' + word + '"'; }
+
 int FaultStatus() { return static_cast<int>(kFault); }
 std::string FaultText() { return "its process was ended by the system (status 0xC0000005)"; }
 
