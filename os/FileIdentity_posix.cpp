@@ -98,6 +98,11 @@ FileIdentity IdentityOf(const fs::path& name) {
   return identity;
 }
 
+bool CanBeReadAgain(const fs::path& name) {
+  std::error_code none;
+  return !fs::exists(name, none) || fs::is_regular_file(name, none);
+}
+
 bool IsOpenForWriting(int descriptor) {
   const int flags = ::fcntl(descriptor, F_GETFL);
   return flags >= 0 && (flags & O_PATH) == 0 && (flags & O_ACCMODE) != O_RDONLY;

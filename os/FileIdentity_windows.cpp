@@ -71,6 +71,12 @@ FileIdentity IdentityOf(const fs::path& name) {
   return identity;
 }
 
+bool CanBeReadAgain(const fs::path& name) {
+  std::error_code none;
+  return !IsDeviceName(FullName(name)) &&
+         (!fs::exists(name, none) || fs::is_regular_file(name, none));
+}
+
 bool IsOpenForWriting(int descriptor) {
   constexpr ACCESS_MASK kWrites = FILE_WRITE_DATA | FILE_APPEND_DATA;
   PUBLIC_OBJECT_BASIC_INFORMATION rights{};

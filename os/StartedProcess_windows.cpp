@@ -1,5 +1,6 @@
 #include "os/StartedProcess_windows.h"
 
+#include "os/CommandLine_windows.h"
 #include "os/FileIdentity.h"
 
 #include <array>
@@ -68,32 +69,6 @@ Handle MakeJob() {
   return job;
 }
 
-// As the child's command line is taken apart again: a quote in it, and the
-// backslashes before one, stand behind a backslash.
-void AppendWord(std::wstring& line, std::wstring_view word) {
-  line += L'"';
-  std::size_t backslashes = 0;
-  for (const wchar_t character : word) {
-    if (character == L'"') {
-      line.append(backslashes + 1, L'\\');
-    }
-    backslashes = character == L'\\' ? backslashes + 1 : 0;
-    line += character;
-  }
-  line.append(backslashes, L'\\');
-  line += L'"';
-}
-
-std::wstring LineOf(const std::filesystem::path& program, const std::vector<std::string>& words) {
-  std::wstring line;
-  AppendWord(line, program.native());
-  for (const std::string& word : words) {
-    line += L' ';
-    AppendWord(line, ToWide(word));
-  }
-  return line;
-}
-
 // The handles that a child gets, and no others.
 class Inheritance {
  public:
@@ -141,7 +116,7 @@ StartedProcess Start(const std::filesystem::path& program, const std::vector<std
   start.StartupInfo.hStdError = errors.write.Get();
   start.lpAttributeList = inheritance.List();
   Handle job = MakeJob();
-  std::wstring line = LineOf(program, words);
+  std::wstring line = CommandLine(program, words);
   PROCESS_INFORMATION started{};
   if (::CreateProcessW(program.c_str(), line.data(), nullptr, nullptr, TRUE,
                        CREATE_SUSPENDED | EXTENDED_STARTUPINFO_PRESENT, nullptr, nullptr,
