@@ -13,14 +13,17 @@ products=(plugin text os cim json platform report compare findings schema descri
 
 # Compilers run through ccache where it is installed; whoever wants another
 # launcher, or none, says so.
-if [[ -z "${CMAKE_CXX_COMPILER_LAUNCHER+set}" ]]; then
-  CMAKE_CXX_COMPILER_LAUNCHER=""
-  if command -v ccache >/dev/null; then
-    CMAKE_CXX_COMPILER_LAUNCHER=ccache
-    # Precompiled headers pass through it under these conditions only.
-    export CCACHE_SLOPPINESS="${CCACHE_SLOPPINESS-pch_defines,time_macros}"
-  fi
-fi
+launcher_is_given="${CMAKE_CXX_COMPILER_LAUNCHER+yes}"
+CMAKE_CXX_COMPILER_LAUNCHER="${CMAKE_CXX_COMPILER_LAUNCHER-}"
+choose_launcher() {
+  [[ -z "$launcher_is_given" ]] && command -v ccache >/dev/null || return 0
+  CMAKE_CXX_COMPILER_LAUNCHER=ccache
+  # Precompiled headers pass through it under these conditions only.
+  export CCACHE_SLOPPINESS="${CCACHE_SLOPPINESS-pch_defines,time_macros}"
+  # What is not found is compiled at once, not preprocessed first.
+  export CCACHE_DEPEND="${CCACHE_DEPEND-1}"
+}
+choose_launcher
 
 say() { printf '%s\n' "$1" >&2; }
 
