@@ -4,6 +4,7 @@
 #include "app/ClassNames.h"
 #include "app/Errors.h"
 #include "app/Input.h"
+#include "app/ModulePath.h"
 #include "app/PropertyFilter.h"
 #include "app/QueryPlan.h"
 #include "cim/Catalogue.h"
@@ -105,7 +106,8 @@ void AddDemoAndPlugin(Subcommand& app, CollectOptions& options, const Option& se
                [&options](const std::string& value) { options.demo = value; })
       .OneOf(text::Names(BuiltInServers(), &BuiltInServer::name), "built-in server")
       .Excludes(server);
-  app.AddFile("--plugin", "The plug-in module; default: strake.so near the command",
+  app.AddFile("--plugin",
+              std::string("The plug-in module; default: ") + kModuleName + " near the command",
               options.plugin);
 }
 
