@@ -1,6 +1,7 @@
 #include "app/RunQueries.h"
 
 #include "app/Errors.h"
+#include "os/LoadableModule.h"
 
 #include <cstddef>
 #include <exception>
@@ -16,6 +17,8 @@ void RunStep(const std::string& name, const Step& step) {
   try {
     step();
   } catch (const platform::SessionError& error) {
+    throw RunError(error.what());
+  } catch (const os::ModuleError& error) {
     throw RunError(error.what());
   } catch (const std::exception& error) {
     throw RunError(name + " ended with an exception: " + error.what());

@@ -16,7 +16,7 @@ struct ErrorRow {
 
 constexpr std::array<ErrorRow, 23> kErrors{{
     {ERROR_FILE_NOT_FOUND, ENOENT},      {ERROR_PATH_NOT_FOUND, ENOENT},
-    {ERROR_INVALID_NAME, ENOENT},        {ERROR_BAD_PATHNAME, ENOENT},
+    {ERROR_INVALID_NAME, EINVAL},        {ERROR_BAD_PATHNAME, ENOENT},
     {ERROR_BAD_NETPATH, ENOENT},         {ERROR_INVALID_DRIVE, ENOENT},
     {ERROR_ACCESS_DENIED, EACCES},       {ERROR_SHARING_VIOLATION, EACCES},
     {ERROR_LOCK_VIOLATION, EACCES},      {ERROR_WRITE_PROTECT, EROFS},
@@ -78,6 +78,9 @@ DWORD WriteAll(HANDLE handle, const char* bytes, std::size_t count) noexcept {
     if (::WriteFile(handle, rest.data(), piece, &written, nullptr) == 0) {
       return ::GetLastError();
     }
+    if (written == 0) {
+      return ERROR_NO_DATA;  // a pipe that does not wait
+    }
     rest.remove_prefix(written);
   }
   return 0;
@@ -111,6 +114,7 @@ std::wstring ToWide(std::string_view text) {
   return wide;
 }
 
+// A name of blanks alone has no full one: whoever opens it refuses it.
 std::wstring FullName(const std::filesystem::path& file) {
   std::wstring name;
   DWORD length = MAX_PATH;
@@ -119,10 +123,25 @@ std::wstring FullName(const std::filesystem::path& file) {
     length = ::GetFullPathNameW(file.c_str(), length, name.data(), nullptr);
   }
   if (length == 0) {
-    FailBy();
+    return file.native();
   }
   name.resize(length);
   return name;
+}
+
+std::wstring NameOfModule(HMODULE module) {
+  std::wstring name(MAX_PATH, L'\0');
+  for (;;) {
+    const DWORD length = ::GetModuleFileNameW(module, name.data(), static_cast<DWORD>(name.size()));
+    if (length == 0) {
+      FailBy();
+    }
+    if (length < name.size()) {
+      name.resize(length);
+      return name;
+    }
+    name.resize(name.size() * 2);
+  }
 }
 
 bool IsDeviceName(std::wstring_view fullName) { return fullName.starts_with(L"\\\\.\\"); }

@@ -59,5 +59,7 @@ bool IsDeviceName(std::wstring_view fullName);
 
 // As the system spells an open file's name; empty: it has none.
 std::wstring NameOf(HANDLE file);
+// Null: the command's own. Throws std::system_error.
+std::wstring NameOfModule(HMODULE module);
 
 }  // namespace strake::os

@@ -3,6 +3,7 @@
 
 #include <filesystem>
 #include <stdexcept>
+#include <string>
 
 namespace strake::os {
 
@@ -30,6 +31,7 @@ class LoadableModule {
   int Notify(const char* entry, unsigned int reason);
 
  private:
+  std::string fFile;  // as it was given, for messages
   void* fLibrary;
 };
 

@@ -14,8 +14,9 @@ namespace {
 
 constexpr unsigned int kJoins = 1;
 
-// What the module is linked with is looked for beside it first.
-constexpr DWORD kLoad = LOAD_WITH_ALTERED_SEARCH_PATH;
+// What the module is linked with is looked for beside it, beside the command and
+// where the system has its own; in neither the current folder nor PATH.
+constexpr DWORD kLoad = LOAD_LIBRARY_SEARCH_DLL_LOAD_DIR | LOAD_LIBRARY_SEARCH_DEFAULT_DIRS;
 // Neither calls the module nor looks for what it is linked with.
 constexpr DWORD kLook = kLoad | DONT_RESOLVE_DLL_REFERENCES;
 
@@ -23,22 +24,15 @@ constexpr DWORD kLook = kLoad | DONT_RESOLVE_DLL_REFERENCES;
   throw ModuleError(text::EscapeForPeople(file) + ": " + reason);
 }
 
-HMODULE Load(const std::wstring& name, DWORD how) {
+// To a name without an ending the loader adds one, unless it ends with a point.
+HMODULE Load(std::wstring name, DWORD how) {
+  if (!std::filesystem::path(name).has_extension()) {
+    name += L'.';
+  }
   return ::LoadLibraryExW(name.c_str(), nullptr, how);
 }
 
 std::string LoaderReason(DWORD error) { return "is not a loadable module: " + ErrorText(error); }
-
-std::wstring FileOf(HMODULE library) {
-  std::wstring name(MAX_PATH, L'\0');
-  DWORD length = 0;
-  while ((length = ::GetModuleFileNameW(library, name.data(), static_cast<DWORD>(name.size()))) ==
-         name.size()) {
-    name.resize(name.size() * 2);
-  }
-  name.resize(length);
-  return name;
-}
 
 // Of an entry that threw something else than a std::exception.
 struct NamelessFailure {};
@@ -56,14 +50,15 @@ void Rethrow(const std::optional<std::string>& told) {
 
 }  // namespace
 
-LoadableModule::LoadableModule(const std::filesystem::path& file) {
+LoadableModule::LoadableModule(const std::filesystem::path& file)
+    : fFile(file.string()), fLibrary(nullptr) {
   std::error_code error;
   if (!std::filesystem::exists(file, error)) {
-    Refuse(file.string(), "there is no such module file");
+    Refuse(fFile, "there is no such module file");
   }
   fLibrary = Load(FullName(file), kLook);
   if (fLibrary == nullptr) {
-    Refuse(file.string(), LoaderReason(::GetLastError()));
+    Refuse(fFile, LoaderReason(::GetLastError()));
   }
 }
 
@@ -87,7 +82,7 @@ int LoadableModule::Notify(const char* entry, unsigned int reason) {
     Rethrow(listener.Heard());
     return isDone ? 1 : 0;
   }
-  const std::wstring file = FileOf(library);
+  const std::wstring file = NameOfModule(library);
   ::FreeLibrary(library);
   fLibrary = Load(file, kLoad);
   if (fLibrary != nullptr) {
@@ -96,7 +91,7 @@ int LoadableModule::Notify(const char* entry, unsigned int reason) {
   const DWORD error = ::GetLastError();
   Rethrow(listener.Heard());
   if (error != ERROR_DLL_INIT_FAILED) {
-    Refuse(ToUtf8(file), LoaderReason(error));
+    Refuse(fFile, LoaderReason(error));
   }
   return 0;
 }

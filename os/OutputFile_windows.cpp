@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 #include <system_error>
+#include <utility>
 
 namespace strake::os {
 namespace {
@@ -57,6 +58,10 @@ Target OpenTarget(const fs::path& name) {
     throw std::system_error(isFile ? ENOTDIR : ENOENT, std::generic_category());
   }
   target.name = FullName(name);
+  // A part of a file beside its content cannot be put in place by a name.
+  if (fs::path(target.name).filename().native().find(L':') != std::wstring::npos) {
+    throw std::system_error(EINVAL, std::generic_category());
+  }
   target.existing = OpenForWriting(target.name.c_str());
   if (!target.existing.IsOpen()) {
     if (const DWORD error = ::GetLastError();
@@ -67,7 +72,9 @@ Target OpenTarget(const fs::path& name) {
   }
   target.isStream = ::GetFileType(target.existing.Get()) != FILE_TYPE_DISK;
   if (!target.isStream) {
-    target.name = NameOf(target.existing.Get());
+    if (std::wstring spelt = NameOf(target.existing.Get()); !spelt.empty()) {
+      target.name = std::move(spelt);
+    }
   }
   return target;
 }

@@ -1,6 +1,8 @@
 #include "os/Handle_windows.h"
 #include "os/Signals.h"
 
+#include <csignal>
+
 namespace strake::os {
 namespace {
 
@@ -45,6 +47,20 @@ BOOL WINAPI OnRequest(DWORD /*kind*/) {
   return TRUE;
 }
 
+// As the system ends a process that does what these stand for; the C library's
+// own status says that there are findings.
+void OnFault(int signal) {
+  UINT status = STATUS_STACK_BUFFER_OVERRUN;  // as abort does elsewhere
+  if (signal == SIGSEGV) {
+    status = STATUS_ACCESS_VIOLATION;
+  } else if (signal == SIGILL) {
+    status = STATUS_ILLEGAL_INSTRUCTION;
+  } else if (signal == SIGFPE) {
+    status = STATUS_FLOAT_INVALID_OPERATION;
+  }
+  ::TerminateProcess(::GetCurrentProcess(), status);
+}
+
 }  // namespace
 
 SignalHold::SignalHold() noexcept { ::EnterCriticalSection(&TheState().lock); }
@@ -54,6 +70,11 @@ SignalHold::~SignalHold() { ::LeaveCriticalSection(&TheState().lock); }
 void PrepareForSignals() {
   TheState().isPrepared = true;
   ::SetConsoleCtrlHandler(OnRequest, TRUE);
+  for (const int fault : {SIGABRT, SIGFPE, SIGILL, SIGSEGV}) {
+    (void)std::signal(fault, OnFault);
+  }
+  // No box that waits for somebody: what the system has to say comes as an error.
+  ::SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOGPFAULTERRORBOX | SEM_NOOPENFILEERRORBOX);
 }
 
 void EndByClosedPipe() {

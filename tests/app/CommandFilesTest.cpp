@@ -38,6 +38,9 @@ TEST_F(CommandFilesTest, RefusesADescriptionThatCannotBeRead) {
             "strake: " + absent + ": cannot be read: No such file or directory");
   ExpectEnd(Collect({"--server", fFolder.Path().string()}), 2,
             "strake: " + fFolder.Path().string() + ":");
+  // A name that no system takes for none.
+  ExpectEnd(Collect({"--server", " "}), 2,
+            "strake:  : cannot be read: No such file or directory");
 }
 
 TEST_F(CommandFilesTest, RefusesADescriptionOfAHundredMegabytes) {

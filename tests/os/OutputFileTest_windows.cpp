@@ -5,6 +5,7 @@
 #include "tests/support/OutputFailure.h"
 #include "tests/support/TemporaryFolder.h"
 
+#include <array>
 #include <gtest/gtest.h>
 
 namespace strake::tests {
@@ -47,6 +48,33 @@ TEST(OutputFile, HasTheNameThatItWasGivenInUtf8) {
   const fs::path file = fs::directory_iterator(folder.Path())->path();
   EXPECT_TRUE(file.filename().u8string() == os::FileNamed(name).u8string());
   EXPECT_EQ(ReadFile(file), "new");
+}
+
+TEST(OutputFile, CanHaveANameThatIsLongerThanOldProgramsTake) {
+  const TemporaryFolder folder;
+  const std::array<std::string, 3> names{std::string(120, 'a'), std::string(120, 'b'),
+                                         std::string(120, 'c')};
+  fs::path deep = folder.Path();
+  for (const std::string& name : names) deep /= name;
+  fs::create_directories(deep);
+  Overwrite(deep / "report", Privacy::Usual);
+  Overwrite(deep / "report", Privacy::Usual);
+  EXPECT_EQ(ReadFile(deep / "report"), "new");
+  // What removes folders is such a program.
+  fs::path brief = folder.Path();
+  for (const std::string& name : names) {
+    fs::rename(brief / name, brief / name.substr(0, 1));
+    brief /= name.substr(0, 1);
+  }
+}
+
+TEST(OutputFile, IsNoStreamBesideAFilesContent) {
+  const TemporaryFolder folder;
+  static_cast<void>(folder.Write("report", "old"));
+  for (const char* const name : {"report:more", "other:more"}) {
+    EXPECT_EQ(FailureOf(folder / name), "cannot write " + folder / name + ": Invalid argument");
+  }
+  EXPECT_EQ(folder.Names(), Names{"report"});
 }
 
 TEST(OutputFile, ReplacesTheFileWhoseNameDiffersInCase) {
