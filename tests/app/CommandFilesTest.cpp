@@ -39,8 +39,7 @@ TEST_F(CommandFilesTest, RefusesADescriptionThatCannotBeRead) {
   ExpectEnd(Collect({"--server", fFolder.Path().string()}), 2,
             "strake: " + fFolder.Path().string() + ":");
   // A name that no system takes for none.
-  ExpectEnd(Collect({"--server", " "}), 2,
-            "strake:  : cannot be read: No such file or directory");
+  ExpectEnd(Collect({"--server", " "}), 2, "strake:  : cannot be read: No such file or directory");
 }
 
 TEST_F(CommandFilesTest, RefusesADescriptionOfAHundredMegabytes) {
