@@ -1,5 +1,6 @@
 // The options of `strake check`.
 #include "app/Subcommands.h"
+#include "os/FileName.h"
 
 namespace strake::app {
 namespace {
@@ -20,8 +21,9 @@ failed.)";
 Subcommand AddCheck(CLI::App& app, CheckOptions& options) {
   Subcommand command(app, "check", "Check server descriptions", kCheckExamples);
   command
-      .AddValue("file", "FILE", "Server descriptions (*.server.json)",
-                [&options](const std::string& value) { options.files.emplace_back(value); })
+      .AddValue(
+          "file", "FILE", "Server descriptions (*.server.json)",
+          [&options](const std::string& value) { options.files.push_back(os::FileNamed(value)); })
       .Required()
       .Several()
       .NamesFile();

@@ -19,7 +19,7 @@ Examples:
   strake collect
   strake collect --class system --class sensors
   strake collect --class sensors --format csv --output sensors.csv
-  strake collect --sensor 'fan*' --sort reading --limits limits.toml --fail-on warning
+  strake collect --sensor "fan*" --sort reading --limits limits.toml --fail-on warning
   strake collect --query VELKSG_SP_ComputerSystem,VELKSG_SP_NumericSensor --query ""
   strake collect --server rack7.server.json --format json --output report.json
   strake collect --log run.log --trace run.trace

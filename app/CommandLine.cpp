@@ -150,6 +150,7 @@ CommandLine ParseCommandLine(int argc, const char* const* argv) {
   CLI::App app("Collects what a server's service processors say about themselves.", "strake");
   app.set_version_flag("--version", kVersion);
   app.require_subcommand(1);
+  app.allow_windows_style_options(false);
 
   CollectOptions collect;
   const Subcommand collectCommand = AddCollect(app, collect);

@@ -2,6 +2,7 @@
 #include "app/Input.h"
 #include "app/Percentage.h"
 #include "app/Subcommands.h"
+#include "os/FileName.h"
 #include "text/OrList.h"
 
 #include <algorithm>
@@ -39,12 +40,12 @@ Subcommand AddDiff(CLI::App& app, DiffOptions& options) {
   Subcommand command(app, "diff", "Compare two reports", kDiffExamples);
   command
       .AddValue("before", "BEFORE", "A report as JSON; - is standard input",
-                [&options](const std::string& value) { options.before = value; })
+                [&options](const std::string& value) { options.before = os::FileNamed(value); })
       .Required()
       .NamesFile();
   command
       .AddValue("after", "AFTER", "A later one",
-                [&options](const std::string& value) { options.after = value; })
+                [&options](const std::string& value) { options.after = os::FileNamed(value); })
       .Required()
       .NamesFile();
   command

@@ -6,7 +6,7 @@
 #include "describe/Skeleton.h"
 #include "os/FileIdentity.h"
 #include "os/OutputFile.h"
-#include "text/ShellWord.h"
+#include "os/ShellWord.h"
 #include "text/TextEscape.h"
 
 #include <system_error>
@@ -46,7 +46,7 @@ int Init(const InitOptions& options) {
     const std::string name = options.output->string();
     os::WriteStandardOutput(
         text::EscapeForPeople(name + " is written; fill it in, and try it with: strake check " +
-                              text::ShellWord(name)) +
+                              os::ShellWord(name)) +
         "\n");
   }
   return kExitDone;

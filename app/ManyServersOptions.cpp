@@ -2,12 +2,12 @@
 
 #include "app/Duration.h"
 #include "app/Input.h"
+#include "os/FileIdentity.h"
 
 #include <algorithm>
 #include <array>
 #include <charconv>
 #include <string_view>
-#include <system_error>
 #include <thread>
 #include <utility>
 
@@ -59,10 +59,8 @@ void RefuseWhatIsForOneServer(const Subcommand& command, const CollectOptions& o
       command.Refuse(refusal.append(": a file for one server, not to be had with ").append(reason));
     }
   }
-  std::error_code none;  // what is not there is refused where it is read
-  if (options.limits && (options.limits == kStandardInput ||
-                         (std::filesystem::exists(*options.limits, none) &&
-                          !std::filesystem::is_regular_file(*options.limits, none)))) {
+  if (options.limits &&
+      (options.limits == kStandardInput || !os::CanBeReadAgain(*options.limits))) {
     command.Refuse("--limits: expected a regular file, which can be read for each server, got " +
                    InputName(*options.limits));
   }

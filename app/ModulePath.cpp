@@ -12,15 +12,16 @@ namespace {
 
 // From the command's folder: beside it, as built, as installed.
 constexpr std::array<const char*, 3> kPlaces{".", "../lib", STRAKE_BIN_TO_LIB};
-constexpr const char* kModule = "strake.so";
 
 }  // namespace
+
+const char* const kModuleName = STRAKE_MODULE;
 
 std::filesystem::path FindModule(const std::filesystem::path& commandFolder) {
   std::filesystem::path previous;
   std::string searched;
   for (const char* const place : kPlaces) {
-    std::filesystem::path module = (commandFolder / place / kModule).lexically_normal();
+    std::filesystem::path module = (commandFolder / place / kModuleName).lexically_normal();
     if (module == previous) {
       continue;
     }
@@ -31,7 +32,7 @@ std::filesystem::path FindModule(const std::filesystem::path& commandFolder) {
     searched += (searched.empty() ? "" : ", ") + module.parent_path().string();
     previous = std::move(module);
   }
-  throw RunError(std::string("no plug-in module ") + kModule + " in " + searched +
+  throw RunError(std::string("no plug-in module ") + kModuleName + " in " + searched +
                  "; name one with --plugin");
 }
 

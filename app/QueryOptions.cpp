@@ -4,9 +4,11 @@
 #include "app/ClassNames.h"
 #include "app/Errors.h"
 #include "app/Input.h"
+#include "app/ModulePath.h"
 #include "app/PropertyFilter.h"
 #include "app/QueryPlan.h"
 #include "cim/Catalogue.h"
+#include "os/FileName.h"
 #include "text/OrList.h"
 
 #include <algorithm>
@@ -104,7 +106,8 @@ void AddDemoAndPlugin(Subcommand& app, CollectOptions& options, const Option& se
                [&options](const std::string& value) { options.demo = value; })
       .OneOf(text::Names(BuiltInServers(), &BuiltInServer::name), "built-in server")
       .Excludes(server);
-  app.AddFile("--plugin", "The plug-in module; default: strake.so near the command",
+  app.AddFile("--plugin",
+              std::string("The plug-in module; default: ") + kModuleName + " near the command",
               options.plugin);
 }
 
@@ -118,11 +121,12 @@ void AddInput(Subcommand& app, CollectOptions& options) {
 
 void AddInputs(Subcommand& app, CollectOptions& options) {
   const Option servers =
-      app.AddValue(
-             "--server", "FILE",
-             "The server description (*.server.json); several (repeatable) with --format "
-             "jsonl, each collected in a process of its own",
-             [&options](const std::string& value) { options.many.servers.emplace_back(value); })
+      app.AddValue("--server", "FILE",
+                   "The server description (*.server.json); several (repeatable) with --format "
+                   "jsonl, each collected in a process of its own",
+                   [&options](const std::string& value) {
+                     options.many.servers.push_back(os::FileNamed(value));
+                   })
           .NamesFile()
           .Repeatable();
   AddDemoAndPlugin(app, options, servers);

@@ -6,6 +6,7 @@
 #include "app/SharedFiles.h"
 #include "app/Trail.h"
 #include "os/OutputFile.h"
+#include "os/ShellWord.h"
 #include "platform/server/ServerDescription.h"
 #include "replay/DescriptionWriter.h"
 #include "replay/ReplayBuilder.h"
@@ -60,7 +61,7 @@ int Replay(const ReplayOptions& options) {
     file->Complete();
     os::WriteStandardOutput(
         text::EscapeForPeople(options.output->string() + " is written; replay it with: " +
-                              replay::CommandOf(replay, options.output->string())) +
+                              replay::CommandOf(replay, options.output->string(), os::ShellWord)) +
         "\n");
   } else {
     os::WriteStandardOutput(text);

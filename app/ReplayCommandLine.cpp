@@ -1,5 +1,6 @@
 // The options of `strake replay`.
 #include "app/Subcommands.h"
+#include "os/FileName.h"
 
 namespace strake::app {
 namespace {
@@ -24,7 +25,7 @@ Subcommand AddReplay(CLI::App& app, ReplayOptions& options) {
   Subcommand command(app, "replay", "Make a server description out of a trace", kReplayExamples);
   command
       .AddValue("trace", "TRACE", "What collect --trace wrote; - is standard input",
-                [&options](const std::string& value) { options.trace = value; })
+                [&options](const std::string& value) { options.trace = os::FileNamed(value); })
       .Required()
       .NamesFile();
   command.AddFlag("--scrub", "Replace names, addresses and texts, each by the same everywhere",

@@ -1,6 +1,7 @@
 #include "app/RunQueries.h"
 
 #include "app/Errors.h"
+#include "os/LoadableModule.h"
 
 #include <cstddef>
 #include <exception>
@@ -17,6 +18,8 @@ void RunStep(const std::string& name, const Step& step) {
     step();
   } catch (const platform::SessionError& error) {
     throw RunError(error.what());
+  } catch (const os::ModuleError& error) {
+    throw RunError(error.what());
   } catch (const std::exception& error) {
     throw RunError(name + " ended with an exception: " + error.what());
   } catch (...) {
@@ -26,7 +29,7 @@ void RunStep(const std::string& name, const Step& step) {
 
 }  // namespace
 
-void Attach(platform::HostSession& session, platform::ModuleEntry entry) {
+void Attach(platform::HostSession& session, const platform::ModuleEntry& entry) {
   RunStep("attaching", [&] { session.Attach(entry); });
 }
 

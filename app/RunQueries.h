@@ -9,7 +9,7 @@
 
 namespace strake::app {
 
-void Attach(platform::HostSession& session, platform::ModuleEntry entry);
+void Attach(platform::HostSession& session, const platform::ModuleEntry& entry);
 void Initialize(platform::HostSession& session);
 void RunQueries(platform::HostSession& session, const std::vector<ClassNames>& queries);
 // Deinitializes the plug-in and detaches the module.

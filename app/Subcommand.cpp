@@ -1,6 +1,7 @@
 #include "app/Subcommand.h"
 
 #include "app/Errors.h"
+#include "os/FileName.h"
 #include "text/OrList.h"
 
 #include <CLI/CLI.hpp>
@@ -31,6 +32,7 @@ namespace {
 
 DefinedSubcommand* Define(CLI::App& app, const std::string& name, const std::string& description) {
   const auto command = std::make_shared<DefinedSubcommand>(description, name);
+  command->allow_windows_style_options(false);  // "/" begins the name of a file everywhere
   app.add_subcommand(command);
   return command.get();
 }
@@ -127,7 +129,8 @@ Option Subcommand::AddValue(const std::string& name, const std::string& type,
 
 Option Subcommand::AddFile(const std::string& name, const std::string& text,
                            std::optional<std::filesystem::path>& file) {
-  return AddValue(name, "FILE", text, [&file](const std::string& value) { file = value; })
+  return AddValue(name, "FILE", text,
+                  [&file](const std::string& value) { file = os::FileNamed(value); })
       .NamesFile();
 }
 

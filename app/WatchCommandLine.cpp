@@ -19,7 +19,7 @@ signal, Ctrl-C as a rule, ends it.
 
 Examples:
   strake watch --server rack7.server.json --class sensors
-  strake watch --sensor 'fan*' --interval 2s --tolerance 5
+  strake watch --sensor "fan*" --interval 2s --tolerance 5
   strake watch --interval 1m --count 60 --no-header > hour.txt
 
 Exit status: 0 the rounds of --count ran, 1 the run failed, 2 wrong usage or a

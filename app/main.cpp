@@ -10,6 +10,7 @@
 #include "app/Replay.h"
 #include "app/Schema.h"
 #include "app/Watch.h"
+#include "os/CommandWords.h"
 #include "os/OutputFile.h"
 #include "os/Signals.h"
 #include "os/Terminal.h"
@@ -18,7 +19,9 @@
 
 #include <exception>
 #include <new>
+#include <string>
 #include <variant>
+#include <vector>
 
 namespace strake::app {
 namespace {
@@ -47,11 +50,20 @@ int Fail(const char* text, int status) {
   return status;
 }
 
+CommandLine ParseWords(const std::vector<std::string>& words) {
+  std::vector<const char*> texts;
+  texts.reserve(words.size());
+  for (const std::string& word : words) {
+    texts.push_back(word.c_str());
+  }
+  return ParseCommandLine(static_cast<int>(texts.size()), texts.data());
+}
+
 int Main(int argc, char** argv) {
   try {
     os::OccupyStandardDescriptors();
     os::PrepareForSignals();
-    return std::visit(Runner(), ParseCommandLine(argc, argv));
+    return std::visit(Runner(), ParseWords(os::CommandWords(argc, argv)));
   } catch (const UsageError& error) {
     return Fail(error.what(), kExitRefused);
   } catch (const text::InputError& error) {

@@ -13,8 +13,15 @@ check_cxx_compiler_flag(-fcf-protection STRAKE_HAS_CF_PROTECTION)
 if(STRAKE_HAS_CF_PROTECTION)
   target_compile_options(strake_flags INTERFACE -fcf-protection)
 endif()
-# What the loader resolves is resolved at the start and read-only from then on.
-target_link_options(strake_flags INTERFACE -Wl,-z,relro,-z,now,-z,noexecstack)
+if(WIN32)
+  target_link_options(strake_flags INTERFACE -fstack-protector-strong)
+  # Any address of 64 bits, no data that is run, and no time of linking.
+  target_link_options(strake_flags INTERFACE
+    -Wl,--dynamicbase,--high-entropy-va,--nxcompat,--no-insert-timestamp)
+else()
+  # What the loader resolves is resolved at the start and read-only from then on.
+  target_link_options(strake_flags INTERFACE -Wl,-z,relro,-z,now,-z,noexecstack)
+endif()
 
 set(optimized "$<CONFIG:Release,RelWithDebInfo,MinSizeRel>")
 # Checked copies need optimization, and sanitizers check more. Tests that are

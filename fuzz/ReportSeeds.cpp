@@ -38,7 +38,7 @@ std::vector<cim::StoredInstance> Collected(const platform::ServerDescription& se
 std::vector<cim::StoredInstance> AllOf(const std::string& text) {
   std::vector<cim::StoredInstance> instances;
   for (const cim::SchemaClass& schema : cim::SchemaClasses()) {
-    cim::StoredInstance instance{&schema, instances.size() + 1, {}};
+    cim::StoredInstance instance{&schema, static_cast<unsigned long>(instances.size() + 1), {}};
     for (const cim::SchemaProperty& property : schema.properties) {
       instance.properties.push_back({&property, text});
     }

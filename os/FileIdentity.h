@@ -33,6 +33,10 @@ constexpr int kStandardError = 2;
 // /dev/stdout, /dev/fd/3 and their like, also through links.
 std::optional<int> NamedDescriptor(const std::filesystem::path& name);
 
+// What is read gives the same once more: a regular file. What is not there is left
+// to whoever reads it.
+bool CanBeReadAgain(const std::filesystem::path& name);
+
 bool IsOpenForWriting(int descriptor);
 
 }  // namespace strake::os

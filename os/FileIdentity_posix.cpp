@@ -98,12 +98,9 @@ FileIdentity IdentityOf(const fs::path& name) {
   return identity;
 }
 
-bool FileIdentity::IsSameAs(const FileIdentity& other) const {
-  if (descriptor && descriptor == other.descriptor) {
-    return true;
-  }
-  const bool isOneFile = device == other.device && node == other.node && newName == other.newName;
-  return isOneFile && (isRegular || (!descriptor && !other.descriptor));
+bool CanBeReadAgain(const fs::path& name) {
+  std::error_code none;
+  return !fs::exists(name, none) || fs::is_regular_file(name, none);
 }
 
 bool IsOpenForWriting(int descriptor) {

@@ -3,6 +3,7 @@
 
 #include <filesystem>
 #include <stdexcept>
+#include <string>
 
 namespace strake::os {
 
@@ -23,7 +24,14 @@ class LoadableModule {
   // Null when the module has no such symbol.
   [[nodiscard]] void* Find(const char* symbol) const;
 
+  // Tells the module through its entry that it joins the process (1) or leaves it
+  // (0), and gives its answer. Windows' loader does this itself: there the module
+  // is only looked at before it joins, and telling it is loading and unloading; of
+  // an exception out of the entry, this throws one with its text or one without.
+  int Notify(const char* entry, unsigned int reason);
+
  private:
+  std::string fFile;  // as it was given, for messages
   void* fLibrary;
 };
 

@@ -25,8 +25,8 @@ constexpr int kLoadFlags = RTLD_NOW | RTLD_LOCAL | RTLD_NODELETE;
 constexpr int kLoadFlags = RTLD_NOW | RTLD_LOCAL;
 #endif
 
-[[noreturn]] void Refuse(const std::filesystem::path& file, const std::string& reason) {
-  throw ModuleError(text::EscapeForPeople(file.string()) + ": " + reason);
+[[noreturn]] void Refuse(const std::string& file, const std::string& reason) {
+  throw ModuleError(text::EscapeForPeople(file) + ": " + reason);
 }
 
 // The loader's own words, without the file's name that it begins with.
@@ -42,21 +42,28 @@ std::string LoaderReason(const std::string& fileName) {
 
 }  // namespace
 
-LoadableModule::LoadableModule(const std::filesystem::path& file) {
+LoadableModule::LoadableModule(const std::filesystem::path& file)
+    : fFile(file.string()), fLibrary(nullptr) {
   std::error_code error;
   if (!std::filesystem::exists(file, error)) {
-    Refuse(file, "there is no such module file");
+    Refuse(fFile, "there is no such module file");
   }
   // A name without a slash would be searched for where the loader likes.
   const std::string fullName = std::filesystem::absolute(file).string();
   fLibrary = dlopen(fullName.c_str(), kLoadFlags);
   if (fLibrary == nullptr) {
-    Refuse(file, "is not a loadable module: " + LoaderReason(fullName));
+    Refuse(fFile, "is not a loadable module: " + LoaderReason(fullName));
   }
 }
 
 LoadableModule::~LoadableModule() { dlclose(fLibrary); }
 
 void* LoadableModule::Find(const char* symbol) const { return dlsym(fLibrary, symbol); }
+
+// What is told is the module, which changes.
+// NOLINTNEXTLINE(readability-make-member-function-const)
+int LoadableModule::Notify(const char* entry, unsigned int reason) {
+  return reinterpret_cast<int (*)(unsigned int)>(Find(entry))(reason);
+}
 
 }  // namespace strake::os

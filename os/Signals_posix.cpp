@@ -23,7 +23,6 @@ struct State {
   volatile std::sig_atomic_t request = 0;  // the first one that arrived
   long requestTime = 0;
   bool closedPipeEnds = false;
-  Unfinished* first = nullptr;
 };
 
 State& TheState() {
@@ -81,32 +80,6 @@ bool IsIgnored(int signal) {
 }
 
 }  // namespace
-
-void Unfinished::EndAll() noexcept {
-  State& state = TheState();
-  while (state.first != nullptr) {
-    Unfinished* const one = state.first;
-    state.first = one->fNext;
-    one->EndBySignal();
-  }
-}
-
-void Unfinished::Enter() noexcept {
-  const SignalHold hold;
-  fNext = TheState().first;
-  TheState().first = this;
-}
-
-void Unfinished::Leave() noexcept {
-  const SignalHold hold;
-  Unfinished** link = &TheState().first;
-  while (*link != nullptr && *link != this) {
-    link = &(*link)->fNext;
-  }
-  if (*link != nullptr) {
-    *link = fNext;
-  }
-}
 
 SignalHold::SignalHold() noexcept {
   TheState().holds = TheState().holds + 1;

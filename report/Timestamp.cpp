@@ -6,7 +6,7 @@
 namespace strake::report {
 namespace {
 
-void AppendDigits(std::string& out, std::size_t width, long number) {
+void AppendDigits(std::string& out, std::size_t width, long long number) {
   const std::string digits = std::to_string(number);
   out.append(width - digits.size(), '0').append(digits);
 }

@@ -13,14 +13,17 @@ products=(plugin text os cim json platform report compare findings schema descri
 
 # Compilers run through ccache where it is installed; whoever wants another
 # launcher, or none, says so.
-if [[ -z "${CMAKE_CXX_COMPILER_LAUNCHER+set}" ]]; then
-  CMAKE_CXX_COMPILER_LAUNCHER=""
-  if command -v ccache >/dev/null; then
-    CMAKE_CXX_COMPILER_LAUNCHER=ccache
-    # Precompiled headers pass through it under these conditions only.
-    export CCACHE_SLOPPINESS="${CCACHE_SLOPPINESS-pch_defines,time_macros}"
-  fi
-fi
+launcher_is_given="${CMAKE_CXX_COMPILER_LAUNCHER+yes}"
+CMAKE_CXX_COMPILER_LAUNCHER="${CMAKE_CXX_COMPILER_LAUNCHER-}"
+choose_launcher() {
+  [[ -z "$launcher_is_given" ]] && command -v ccache >/dev/null || return 0
+  CMAKE_CXX_COMPILER_LAUNCHER=ccache
+  # Precompiled headers pass through it under these conditions only.
+  export CCACHE_SLOPPINESS="${CCACHE_SLOPPINESS-pch_defines,time_macros}"
+  # What is not found is compiled at once, not preprocessed first.
+  export CCACHE_DEPEND="${CCACHE_DEPEND-1}"
+}
+choose_launcher
 
 say() { printf '%s\n' "$1" >&2; }
 
@@ -33,6 +36,22 @@ fail() {
 bad_usage() {
   say "$program: $1"
   exit 2
+}
+
+# finding WHERE WHAT: a line of what a check found, and their count.
+findings=0
+finding() {
+  printf '%s: %s\n' "$1" "$2"
+  findings=$((findings + 1))
+}
+
+# check_names FILE FOLDER: finds the tree's and the build's folders named in it.
+check_names() {
+  local places place
+  mapfile -t places < <({ realpath -- "$root" "$2" && echo "$root"; } | sort -u)
+  for place in "${places[@]}"; do
+    ! grep -qaF -- "$place/" "$1" || finding "$1" "names the folder $place"
+  done
 }
 
 # The text that a script begins with, up to its first command.

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <cstdlib>
 #include <stdexcept>
 #include <string>
@@ -9,7 +10,7 @@
 namespace NVELKZEV20 {
 namespace {
 
-void CheckField(const char* field, long value, long low, long high) {
+void CheckField(const char* field, std::int64_t value, std::int64_t low, std::int64_t high) {
   if (value >= low && value <= high) {
     return;
   }

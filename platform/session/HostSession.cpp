@@ -37,7 +37,7 @@ HostSession::~HostSession() {
   SetLogSink({});
 }
 
-void HostSession::Attach(ModuleEntry entry) {
+void HostSession::Attach(const ModuleEntry& entry) {
   if (fEntry != nullptr) {
     throw SessionError("a module is attached already");
   }

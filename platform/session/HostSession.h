@@ -7,6 +7,7 @@
 #include "plugin/host/IPluginCallbacks.h"
 
 #include <boost/shared_ptr.hpp>
+#include <functional>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -17,7 +18,7 @@ class BoundaryObserver;
 struct ServerDescription;
 
 // The module's entry: reason 1 attaches, 0 detaches; the result is 0 on failure.
-using ModuleEntry = int (*)(unsigned int reason);
+using ModuleEntry = std::function<int(unsigned int reason)>;
 
 // A module that does not attach or register.
 class SessionError : public std::runtime_error {
@@ -36,7 +37,7 @@ class HostSession {
   ~HostSession();
 
   // Calls the entry with 1; throws SessionError when it fails or registers nothing.
-  void Attach(ModuleEntry entry);
+  void Attach(const ModuleEntry& entry);
   // The plug-in's query face; throws SessionError when it has none.
   [[nodiscard]] NVELKZEV20::IPluginCallbacks& Plugin() const;
   void Initialize();
@@ -54,7 +55,7 @@ class HostSession {
  private:
   boost::shared_ptr<Repository> fRepository;
   BoundaryObserver* fObserver;
-  ModuleEntry fEntry = nullptr;
+  ModuleEntry fEntry;  // empty: no module is attached
   NVELKZEV20::IPluginCallbacks* fPlugin = nullptr;
 };
 

@@ -12,11 +12,16 @@ constexpr const char* kEntryName = "StrakeModuleEntry";
 }  // namespace
 
 PluginModule::PluginModule(const std::filesystem::path& file)
-    : fModule(file), fEntry(reinterpret_cast<ModuleEntry>(fModule.Find(kEntryName))) {
-  if (fEntry == nullptr) {
+    : fModule(std::make_unique<os::LoadableModule>(file)) {
+  if (fModule->Find(kEntryName) == nullptr) {
     throw os::ModuleError(text::EscapeForPeople(file.string()) + ": the module lacks the entry \"" +
                           kEntryName + "\"");
   }
+}
+
+ModuleEntry PluginModule::Entry() const {
+  return
+      [module = fModule.get()](unsigned int reason) { return module->Notify(kEntryName, reason); };
 }
 
 }  // namespace strake::platform

@@ -5,6 +5,7 @@
 #include "platform/session/HostSession.h"
 
 #include <filesystem>
+#include <memory>
 
 namespace strake::platform {
 
@@ -13,11 +14,12 @@ class PluginModule {
   // Throws os::ModuleError: the file is missing, is no module, or lacks the entry.
   explicit PluginModule(const std::filesystem::path& file);
 
-  [[nodiscard]] ModuleEntry Entry() const { return fEntry; }
+  // Calls the module, which lives no longer than this. Where the system's loader
+  // calls modules itself, 1 can throw os::ModuleError, too.
+  [[nodiscard]] ModuleEntry Entry() const;
 
  private:
-  os::LoadableModule fModule;
-  ModuleEntry fEntry;
+  std::unique_ptr<os::LoadableModule> fModule;
 };
 
 }  // namespace strake::platform

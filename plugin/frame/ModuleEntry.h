@@ -1,11 +1,7 @@
 // The module's load and unload notification.
 #pragma once
 
-#ifdef _WIN32
-#define STRAKE_EXPORT __declspec(dllexport)
-#else
-#define STRAKE_EXPORT __attribute__((visibility("default")))
-#endif
+#include <boost/config.hpp>
 
 namespace strake {
 
@@ -18,4 +14,4 @@ inline constexpr unsigned int kProcessAttach = 1;
 // or 0 when the object cannot be allocated. Whoever loads the module calls this
 // with 1 after loading and with 0 before unloading; an ELF loader passes no
 // reason code of its own. Nothing is freed on detach: the host owns the object.
-extern "C" STRAKE_EXPORT int StrakeModuleEntry(unsigned int reason);
+extern "C" BOOST_SYMBOL_EXPORT int StrakeModuleEntry(unsigned int reason);

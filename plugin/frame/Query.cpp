@@ -31,7 +31,7 @@ struct TStrakePluginCallbacks::Run {
   const std::string& MTM;
   const std::string& systemName;
   SPLibrary* spLib;
-  TSPEnviron& environ;
+  TSPEnviron& sensors;
 };
 
 std::span<const TStrakePluginCallbacks::Request> TStrakePluginCallbacks::Requests() {
@@ -98,11 +98,11 @@ void TStrakePluginCallbacks::Query(boost::shared_ptr<ICIMNamespace> cimNamespace
   NoteRequestedClasses(classes);
 
   SPLibrary* const spLib = SPLibrary::GetSplibraryInstance(0);
-  TSPEnviron environ(cimNamespace, spLib, fProvider);
+  TSPEnviron sensors(cimNamespace, spLib, fProvider);
   LogLevel3("Max_Num_Machines = ", Max_Num_Machines,
             " sizeof(MachineTypeArray) = ", sizeof(MachineTypeArray),
             ", sizeof(char*) = ", sizeof(char*));
-  const Run run = {cimNamespace, MTM, systemName, spLib, environ};
+  const Run run = {cimNamespace, MTM, systemName, spLib, sensors};
   bool isComplete = true;
   if (spLib->isDotcommand()) {
     isComplete = CollectOrlo(run);
@@ -167,9 +167,9 @@ bool TStrakePluginCallbacks::CollectOrlo(const Run& run) {
     }
   }
   if (fSP_NumericSensor) {
-    run.environ.ExportOrloVoltages();
-    run.environ.ExportOrloTemps();
-    run.environ.ExportOrloFans();
+    run.sensors.ExportOrloVoltages();
+    run.sensors.ExportOrloTemps();
+    run.sensors.ExportOrloFans();
   }
   LogLevel3("Orlo collection complete.");
   return true;
@@ -197,15 +197,15 @@ void TStrakePluginCallbacks::CollectFromOrlo(const Run& run, unsigned char sp) {
 }
 
 void TStrakePluginCallbacks::ReadOrloSensors(const Run& run, unsigned char sp) const {
-  run.environ.SetNode(sp);
+  run.sensors.SetNode(sp);
   LogLevel3("Begin collecting Orlo Environmental data.");
-  if (run.environ.GetOrloVoltage().Code() != 0) {
+  if (run.sensors.GetOrloVoltage().Code() != 0) {
     LogLevel3("Did not obtain all Orlo Voltage data");
   }
-  if (run.environ.GetOrloTemps().Code() != 0) {
+  if (run.sensors.GetOrloTemps().Code() != 0) {
     LogLevel3("Did not obtain all Orlo Temperature data");
   }
-  if (run.environ.GetOrloFans().Code() != 0) {
+  if (run.sensors.GetOrloFans().Code() != 0) {
     LogLevel3("Did not obtain all Orlo Fan data");
   }
 }
@@ -263,18 +263,18 @@ bool TStrakePluginCallbacks::IsHeldByManagementServer(const Run& run) const {
 }
 
 void TStrakePluginCallbacks::ReadTavitSensors(const Run& run, unsigned int kestleType) const {
-  if (run.environ.GetKestleVoltage(kestleType).Code() != 0) {
+  if (run.sensors.GetKestleVoltage(kestleType).Code() != 0) {
     LogLevel3("Did not obtain all Kestle Voltage data");
   }
-  if (run.environ.GetKestleFan(kestleType).Code() != 0) {
+  if (run.sensors.GetKestleFan(kestleType).Code() != 0) {
     LogLevel3("Did not obtain all Tavit Fan data");
   }
-  if (run.environ.GetKestleTemperature(kestleType).Code() != 0) {
+  if (run.sensors.GetKestleTemperature(kestleType).Code() != 0) {
     LogLevel3("Did not obtain all Tavit Temperature data");
   }
-  run.environ.ExportKestleVoltages();
-  run.environ.ExportKestleFans();
-  run.environ.ExportKestleTemps();
+  run.sensors.ExportKestleVoltages();
+  run.sensors.ExportKestleFans();
+  run.sensors.ExportKestleTemps();
 }
 
 }  // namespace strake

@@ -1,6 +1,7 @@
 // The tables of what the plug-in asks for, held against what it asks for.
 #include "app/AskedCommands.h"
 #include "tests/app/Command.h"
+#include "tests/app/System.h"
 #include "tests/support/Places.h"
 #include "tests/support/TemporaryFolder.h"
 #include "text/DotNotation.h"
@@ -20,7 +21,7 @@ using platform::Identifier;
 std::set<std::string> TracedValues(const std::string& demo, const std::string& word,
                                    const std::string& key) {
   const TemporaryFolder folder;
-  EXPECT_EQ(Strake({"collect", "--demo", demo, "--output", "/dev/null", "--trace", folder / "t"}),
+  EXPECT_EQ(Strake({"collect", "--demo", demo, "--output", NullDevice(), "--trace", folder / "t"}),
             (Outcome{0, "", ""}));
   std::set<std::string> values;
   std::istringstream lines(ReadFile(folder / "t"));

@@ -4,7 +4,6 @@
 #include "tests/support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 namespace strake::tests {
 namespace {
@@ -142,29 +141,12 @@ TEST(Check, GivesEveryFileItsLinesAndRefusesWhenOneIsRefused) {
 TEST(Check, ReadsStandardInputForADash) {
   const TemporaryFolder folder;
   const std::string server = folder.Write("s", WithSp(R"("kind":"none","instances":[{}])"));
-  EXPECT_EQ(Command({"check", "-"}).Reading(STDIN_FILENO, server).Run(),
+  EXPECT_EQ(Command({"check", "-"}).StandardInput(server).Run(),
             (Outcome{0,
                      "standard input is fine: kind none, 1 service processor\n"
                      "standard input: warning: at /sp/instances: there is no service processor "
                      "(kind none)\n",
                      ""}));
-}
-
-TEST(Check, ShowsNothingThatATerminalWouldObey) {
-  const TemporaryFolder folder;
-  const std::string server = folder.Write(
-      "\x1b[2J",
-      WithSp(R"("kind":"tavit")",
-             R"("description":"a\u001b[31m\nb\u009b\u202e","machine_type_model":"\u0007\n",)"));
-  const Outcome outcome = Strake({"check", server});
-  EXPECT_EQ(outcome.status, 0);
-  EXPECT_EQ(outcome.err, "");
-  EXPECT_EQ(outcome.out.substr(folder.Path().string().size()),
-            "/\\x1B[2J is fine: kind tavit, 1 Tavit processor; "
-            "a\\x1B[31m\\nb\\xC2\\x9B\\xE2\\x80\\xAE\n" +
-                folder.Path().string() +
-                "/\\x1B[2J: warning: at /machine_type_model: '\\x07\\n' is no machine with a "
-                "Tavit processor, so nothing is sent to it\n");
 }
 
 TEST(Check, TellsTwentyWarningsOfAFileAndHowManyMoreThereAre) {

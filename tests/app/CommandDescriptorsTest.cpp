@@ -1,194 +1,47 @@
-// The command among the descriptors that it is given: closed ones, pipes without
-// a reader, outputs that meet each other or an input.
-#include "tests/app/Command.h"
-#include "tests/support/TemporaryFolder.h"
+// The command's outputs where they meet each other, an input or standard output.
+#include "tests/app/CommandDescriptorsTest.h"
 
-#include <csignal>
 #include <gtest/gtest.h>
-#include <nlohmann/json.hpp>
-#include <sstream>
 
 namespace strake::tests {
 namespace {
 
-namespace fs = std::filesystem;
-using Names = std::set<std::string>;
-using Words = std::vector<std::string>;
-
-const std::string kServer = R"({"format": "strake-server/1", "sp": {"kind": "none"}})";
-
-class CommandDescriptorsTest : public testing::Test {
- protected:
-  // "strake collect" of the small server.
-  [[nodiscard]] Command Collect(Words words) const {
-    words.insert(words.begin(), {"collect", "--server", fServer});
-    return Command(words);
-  }
-
-  TemporaryFolder fFolder;
-  std::string fServer = fFolder.Write("s", kServer);
-  // Absent and present.
-  std::string fNew = fFolder / "new";
-  std::string fOld = fFolder.Write("old", "old");
-};
-
-// Every one of them is JSON.
-std::size_t CountTraceLines(const std::string& trace) {
-  std::istringstream lines(ReadFile(trace));
-  std::size_t count = 0;
-  for (std::string line; std::getline(lines, line); ++count) {
-    EXPECT_TRUE(nlohmann::json::accept(line)) << line;
-  }
-  return count;
-}
-
-Outcome Refusal(const std::string& text) { return {2, "", "strake: " + text + "\n"}; }
-
 TEST_F(CommandDescriptorsTest, RefusesOutputsThatAreOneFileOrAnInput) {
-  fs::create_symlink("new", fFolder / "link");
-  fs::create_hard_link(fOld, fFolder / "hard");
-  const std::string plugin = fFolder.Write("plugin.so", "no module");
+  std::filesystem::create_hard_link(fOld, fFolder / "hard");
+  const std::string plugin = fFolder.Write(ModuleFile("plugin"), "no module");
   struct Case {
-    Words words;
+    std::vector<std::string> words;
     std::string options;
     std::string file;
   };
   const std::vector<Case> cases = {
-      {{"--trace", fNew, "--log", fFolder / "link"}, "--trace and --log", fFolder / "link"},
       {{"--output", fNew, "--trace", fNew}, "--output and --trace", fNew},
       {{"--output", fOld, "--log", fFolder / "hard"}, "--output and --log", fFolder / "hard"},
       {{"--output", fServer}, "--server and --output", fServer},
       {{"--trace", fServer}, "--server and --trace", fServer},
       {{"--plugin", plugin, "--output", plugin}, "--plugin and --output", plugin},
       {{"--plugin", plugin, "--log", plugin}, "--plugin and --log", plugin},
-      {{"--trace", "/dev/stdout"}, "the report and --trace", "/dev/stdout"},
       {{"--trace", "-"}, "the report and --trace", "-"},
-      {{"--output", "-", "--log", "/dev/fd/1"}, "the report and --log", "/dev/fd/1"},
       {{"--output", fNew, "--trace", "-", "--log", "-"}, "--trace and --log", "-"},
   };
-  const Names before = fFolder.Names();
+  const std::set<std::string> before = fFolder.Names();
   for (const Case& one : cases) {
-    EXPECT_EQ(Collect(one.words).Run(), Refusal(one.options + ": both are the file " + one.file));
+    EXPECT_EQ(Strake(Collecting(one.words)),
+              Refusal(one.options + ": both are the file " + one.file));
   }
   EXPECT_EQ(fFolder.Names(), before);
-  EXPECT_EQ(ReadFile(fServer), kServer);
+  EXPECT_EQ(ReadFile(fServer), kNoProcessor);
   EXPECT_EQ(ReadFile(fOld), "old");
   EXPECT_EQ(ReadFile(plugin), "no module");
 }
 
-TEST_F(CommandDescriptorsTest, RefusesAnOutputThatIsTheFileBehindAStandardDescriptor) {
-  const std::string hard = fFolder / "hard";
-  fs::create_hard_link(fOld, hard);
-  for (const std::string option : {"--trace", "--log"}) {
-    EXPECT_EQ(Collect({option, hard}).StandardOutput(fOld).Run(),
-              Refusal("the report and " + option + ": both are the file " + hard));
-    EXPECT_EQ(Collect({option, "/dev/stderr"}).StandardOutput(fOld).Writing(2, fOld).Run().status,
-              2);
-  }
-  for (const std::string option : {"--output", "--trace", "--log"}) {
-    Words words = {option, hard};
-    if (option != "--output") {
-      words.insert(words.begin(), {"--output", "/dev/null"});
-    }
-    EXPECT_EQ(Collect(words).StandardOutput(fOld).Run(),
-              Refusal("standard output and " + option + ": both are the file " + hard));
-    EXPECT_EQ(Collect(words).Writing(2, fOld).Run().status, 2);
-    EXPECT_EQ(ReadFile(fOld),
-              "strake: standard error and " + option + ": both are the file " + hard + "\n");
-    EXPECT_EQ(fFolder.Write("old", "old"), fOld);
-  }
-}
-
-TEST_F(CommandDescriptorsTest, WritesToTheDescriptorsThatItWasGivenAndToNoOther) {
-  const auto refusal = [](const std::string& name, int descriptor) {
-    return Refusal("--trace: " + name + ": descriptor " + std::to_string(descriptor) +
-                   " is not open for writing");
-  };
-  for (const int descriptor : {3, 4, 5, 6, 7}) {
-    const std::string name = "/dev/fd/" + std::to_string(descriptor);
-    EXPECT_EQ(Collect({"--trace", name, "--log", fNew}).Run(), refusal(name, descriptor));
-  }
-  EXPECT_EQ(Collect({"--trace", "/dev/fd/3"}).Reading(3, fOld).Run(), refusal("/dev/fd/3", 3));
-  EXPECT_EQ(Collect({"--trace", "/dev/stdin"}).Closed({0}).Run(), refusal("/dev/stdin", 0));
-  EXPECT_EQ(Collect({"--output", fNew, "--trace", "-"}).Closed({1}).Run(), refusal("-", 1));
-  EXPECT_FALSE(fs::exists(fNew));
-  const Outcome plain = Collect({}).Run();
-  EXPECT_EQ(Collect({"--trace", "/dev/fd/3"}).Writing(3, fOld).Run(), plain);
-  EXPECT_EQ(ReadFile(fOld).substr(0, 9), "{\"event\":");
-}
-
 TEST_F(CommandDescriptorsTest, TakesAHyphenForStandardOutput) {
-  const Outcome plain = Collect({}).Run();
-  EXPECT_EQ(Collect({"--output", "-"}).Run(), plain);
-  EXPECT_EQ(Collect({"--output", fNew, "--trace", fOld}).Run(), (Outcome{0, "", plain.err}));
+  const Outcome plain = Strake(Collecting({}));
+  EXPECT_EQ(Strake(Collecting({"--output", "-"})), plain);
+  EXPECT_EQ(Strake(Collecting({"--output", fNew, "--trace", fOld})), (Outcome{0, "", plain.err}));
   EXPECT_EQ(ReadFile(fNew), plain.out);
-  EXPECT_EQ(Collect({"--output", fNew, "--trace", "-"}).Run(),
+  EXPECT_EQ(Strake(Collecting({"--output", fNew, "--trace", "-"})),
             (Outcome{0, ReadFile(fOld), plain.err}));
-}
-
-TEST_F(CommandDescriptorsTest, KeepsItsFilesApartFromClosedStandardDescriptors) {
-  const std::string output = fFolder / "output";
-  const std::string trace = fFolder / "trace";
-  const Words words = {"collect", "--output", output,
-                       "--trace", trace,      "--log-level",
-                       "4",       "--class",  "VELKSG_SP_ComputerSystem"};
-  ASSERT_EQ(Command(words).Run().status, 0);
-  const std::string report = ReadFile(output);
-  const std::size_t count = CountTraceLines(trace);
-  EXPECT_GT(count, 50U);
-  for (const std::vector<int>& closed :
-       std::vector<std::vector<int>>{{0}, {1}, {2}, {0, 1}, {0, 2}, {1, 2}, {0, 1, 2}}) {
-    for (const bool isNew : {true, false}) {
-      SCOPED_TRACE(testing::PrintToString(closed));
-      if (isNew) {
-        fs::remove(output);
-        fs::remove(trace);
-      }
-      EXPECT_EQ(Command(words).Closed(closed).Run().status, 0);
-      EXPECT_EQ(ReadFile(output), report);
-      EXPECT_EQ(CountTraceLines(trace), count);
-    }
-  }
-}
-
-TEST_F(CommandDescriptorsTest, LosesItsReportToAClosedStandardOutputAlone) {
-  const std::string trace = fFolder / "trace";
-  ASSERT_EQ(Collect({"--trace", trace}).Run().status, 0);
-  const std::string traced = ReadFile(trace);
-  for (const std::vector<int>& closed : std::vector<std::vector<int>>{{1}, {0, 1}}) {
-    fs::remove(trace);
-    EXPECT_EQ(Collect({"--trace", trace}).Closed(closed).Run(),
-              (Outcome{1, "", "strake: cannot write to standard output: Bad file descriptor\n"}));
-    EXPECT_EQ(ReadFile(trace), traced);
-  }
-}
-
-TEST_F(CommandDescriptorsTest, NoticesThatStandardOutputTakesNothing) {
-  for (const Words& words :
-       {Words{"collect", "--server", fServer}, {"check", fServer}, {"--help"}, {"--version"}}) {
-    EXPECT_EQ(
-        Command(words).StandardOutput("/dev/full").Run(),
-        (Outcome{1, "", "strake: cannot write to standard output: No space left on device\n"}));
-    EXPECT_EQ(Command(words).Closed({1}).Run(),
-              (Outcome{1, "", "strake: cannot write to standard output: Bad file descriptor\n"}));
-  }
-}
-
-TEST_F(CommandDescriptorsTest, EndsQuietlyWhenItsReaderWentAway) {
-  for (const Words& words :
-       {Words{"collect", "--server", fServer}, {"check", fServer}, {"--help"}, {"--version"}}) {
-    EXPECT_EQ(Command(words).NoReader().Run(), (Outcome{-SIGPIPE, "", ""}));
-    EXPECT_EQ(Command(words).NoReader().Ignoring(SIGPIPE).Run(),
-              (Outcome{1, "", "strake: cannot write to standard output: Broken pipe\n"}));
-  }
-  EXPECT_EQ(Collect({"--trace", "-", "--output", fNew}).NoReader().Run(),
-            (Outcome{-SIGPIPE, "", ""}));
-  EXPECT_FALSE(fs::exists(fNew));
-  EXPECT_EQ(Collect({"--trace", fNew, "--log", fOld}).NoReader().Run(),
-            (Outcome{-SIGPIPE, "", ""}));
-  EXPECT_EQ(ReadFile(fNew).substr(0, 9), "{\"event\":");
-  EXPECT_NE(ReadFile(fOld).find("[3] Strake plugin begin execution.\n"), std::string::npos);
-  EXPECT_EQ(fFolder.Names(), (Names{"new", "old", "s"}));
 }
 
 }  // namespace

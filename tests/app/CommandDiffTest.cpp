@@ -3,7 +3,6 @@
 #include "tests/support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 namespace strake::tests {
 namespace {
@@ -39,7 +38,7 @@ TEST_F(CommandDiffTest, EndsWithZeroWithoutDifferencesAndWithOneWithSome) {
 TEST_F(CommandDiffTest, ReadsOneOfThemFromStandardInputAndWritesToAFile) {
   const Outcome outcome =
       Command({"diff", fBefore, "-", "--format", "json", "--output", fFolder / "diff.json"})
-          .Reading(STDIN_FILENO, fAfter)
+          .StandardInput(fAfter)
           .Run();
   EXPECT_EQ(outcome, (Outcome{1, "", ""}));
   const std::string diff = ReadFile(fFolder / "diff.json");

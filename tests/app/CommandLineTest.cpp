@@ -4,6 +4,7 @@
 #include "app/Errors.h"
 #include "app/ModulePath.h"
 #include "cim/Catalogue.h"
+#include "tests/app/Command.h"
 #include "tests/support/Places.h"
 #include "tests/support/TemporaryFolder.h"
 
@@ -417,9 +418,9 @@ TEST(ModulePath, LooksBesideTheCommandAndThenInTheFolderOfLibraries) {
   std::filesystem::create_directory(folder / "lib");
   const std::filesystem::path bin = folder / "bin";
   EXPECT_THROW(app::FindModule(bin), app::RunError);
-  const std::string library = folder.Write("lib/strake.so", "");
+  const std::string library = folder.Write("lib/" + ModuleFile("strake"), "");
   EXPECT_EQ(app::FindModule(bin), library);
-  const std::string beside = folder.Write("bin/strake.so", "");
+  const std::string beside = folder.Write("bin/" + ModuleFile("strake"), "");
   EXPECT_EQ(app::FindModule(bin), beside);
 }
 

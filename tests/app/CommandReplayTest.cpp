@@ -61,14 +61,13 @@ TEST_F(CommandReplayTest, WritesADescriptionWhoseTraceIsTheSame) {
                                 description + " --query VELKSG_";
   EXPECT_EQ(outcome.out.substr(0, beginning.size()), beginning);
   EXPECT_EQ(Trace(description, "again.trace"), trace);
-  EXPECT_EQ(ModeOf(description), 0600U);
 }
 
 TEST_F(CommandReplayTest, WritesToStandardOutputAndReadsStandardInput) {
   const std::string trace = fFolder.Write("field.trace", kTrace);
   EXPECT_EQ(Strake({"replay", trace}), (Outcome{0, kDescription, ""}));
   EXPECT_EQ(Strake({"replay", trace, "--output", "-"}), (Outcome{0, kDescription, ""}));
-  const Outcome piped = Command({"replay", "-"}).Reading(0, trace).Run();
+  const Outcome piped = Command({"replay", "-"}).StandardInput(trace).Run();
   EXPECT_EQ(piped.status, 0);
   EXPECT_NE(piped.out.find("\"Replay of standard input\""), std::string::npos);
 }
@@ -80,7 +79,6 @@ TEST_F(CommandReplayTest, ScrubsAnotherWayEveryTimeAndClosesNothing) {
   const std::string one = ReadFile(output);
   EXPECT_EQ(one.find("ATLAS7"), std::string::npos);
   EXPECT_EQ(one.find("field"), std::string::npos);
-  EXPECT_EQ(ModeOf(output), 0644U);
   EXPECT_EQ(Strake({"check", output}).status, 0);
   EXPECT_NE(Strake({"replay", trace, "--scrub"}).out, one);
 }

@@ -1,42 +1,15 @@
 // The command from outside: what it prints and how it ends.
-#include "report/Formats.h"
-#include "report/Timestamp.h"
-#include "schema/Formats.h"
-#include "tests/app/Command.h"
-#include "tests/support/Places.h"
-#include "tests/support/TemporaryFolder.h"
+#include "tests/app/CommandTest.h"
 
-#include <chrono>
+#include "report/Formats.h"
+#include "schema/Formats.h"
+#include "tests/support/Places.h"
+
 #include <filesystem>
 #include <gtest/gtest.h>
-#include <sstream>
-#include <unistd.h>
 
 namespace strake::tests {
 namespace {
-
-const std::string kServer = R"({"format": "strake-server/1", "description": "One card",
- "sp": {"kind": "orlo", "components": {"4.1.3.1.255": 1}, "instances": [{"dot_commands": {
-   "1.1": "01", "4.4.1": "0A 06 0F 00 0D 2D 1E", "4.4.2": "88 FF",
-   "4.1.3.1.255": {"elements": [
-     {"data": "02"}, {"text": "555-0100"}, {"text": "Pager"}, {"data": "01"}, {"text": "ID"},
-     {"text": "hunter2"}, {"text": "1234"}, {"text": ""}, {"text": ""}, {"text": "ppp"},
-     {"data": "01"}]}}}]}})";
-
-const std::string kSystemTable = R"(rack7.server.json (orlo): One card
-
-SP 1  answered  2010-06-15 13:45:30 UTC-02:00
-
-Findings: none
-
-Service processor 1
-
-  Computer system (VELKSG_SP_ComputerSystem)
-    Name   SRV1:Node1
-    Clock  2010-06-15 13:45:30 UTC-02:00
-
-1 instance, 1 query, 1 service processor
-)";
 
 const std::string kServerJson =
     "{\n  \"format\": \"strake-report/1\",\n  \"strake\": \"" STRAKE_VERSION
@@ -51,55 +24,6 @@ const std::string kSystemJson =
     "\"Name\":\"SRV1:Node1\",\"SPClock\":\"20100615134530.000000-120\"}}\n  ]\n}\n";
 
 const std::string kNoInstancesJson = kServerJson + "]\n}\n";
-
-// With TIME in place of a time between the two.
-Outcome WithoutTime(Outcome outcome, std::chrono::sys_seconds from, std::chrono::sys_seconds to) {
-  for (auto moment = from; moment <= to; moment += std::chrono::seconds(1)) {
-    const std::string text = report::Timestamp(moment);
-    if (const auto at = outcome.out.find(text); at != std::string::npos) {
-      outcome.out.replace(at, text.size(), "TIME");
-    }
-  }
-  return outcome;
-}
-
-std::chrono::sys_seconds Now() {
-  return std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now());
-}
-
-class CommandTest : public testing::Test {
- protected:
-  // "strake collect" of the small server.
-  [[nodiscard]] Outcome Collect(std::vector<std::string> words) const {
-    words.insert(words.begin(), {"collect", "--server", fServer});
-    return Strake(words);
-  }
-
-  // The same as JSON, its time as TIME.
-  [[nodiscard]] Outcome CollectJson(std::vector<std::string> words) const {
-    words.insert(words.end(), {"--format", "json"});
-    const auto begin = Now();
-    const Outcome outcome = Collect(words);
-    return WithoutTime(outcome, begin, Now());
-  }
-
-  // The queries as the trace tells them.
-  [[nodiscard]] std::string QueriesOf(std::vector<std::string> words) const {
-    words.insert(words.end(), {"--trace", fFolder / "trace", "--output", "/dev/null", "--quiet"});
-    EXPECT_EQ(Collect(words), (Outcome{0, "", ""}));
-    std::string queries;
-    std::istringstream lines(ReadFile(fFolder / "trace"));
-    for (std::string line; std::getline(lines, line);) {
-      if (line.find("\"event\":\"query\"") != std::string::npos) {
-        queries += line.substr(line.find('[')) + "\n";
-      }
-    }
-    return queries;
-  }
-
-  TemporaryFolder fFolder;
-  std::string fServer = fFolder.Write("rack7.server.json", kServer);
-};
 
 TEST_F(CommandTest, PrintsATableOfWhatItCollected) {
   EXPECT_EQ(Collect({"--class", "VELKSG_SP_ComputerSystem"}), (Outcome{0, kSystemTable, ""}));
@@ -169,7 +93,7 @@ TEST_F(CommandTest, MasksSecretsUnlessAskedNotTo) {
 }
 
 TEST_F(CommandTest, WritesLogLinesUpToTheirLevel) {
-  const std::vector<std::string> words = {"--query", "", "--output", "/dev/null", "--log-level"};
+  const std::vector<std::string> words = {"--query", "", "--output", NullDevice(), "--log-level"};
   const auto logOf = [&](const std::string& level) {
     std::vector<std::string> all = {"collect", "--plugin", HostileModule(), "--log-level", level};
     all.insert(all.end(), words.begin(), words.end() - 1);
@@ -190,7 +114,7 @@ TEST_F(CommandTest, WritesAllLogLinesToALogFile) {
 }
 
 TEST_F(CommandTest, TracesInitializeAndDeinitializeAroundTheQueries) {
-  EXPECT_EQ(CollectHostile({"--query", "", "--trace", fFolder / "trace", "--output", "/dev/null",
+  EXPECT_EQ(CollectHostile({"--query", "", "--trace", fFolder / "trace", "--output", NullDevice(),
                             "--log-level", "0"}),
             (Outcome{0, "", ""}));
   EXPECT_EQ(ReadFile(fFolder / "trace"),
@@ -204,27 +128,6 @@ TEST_F(CommandTest, ShowsNothingThatATerminalWouldObey) {
       CollectHostile({"--class", "VELKSG_SP_ComputerSystem", "--log-level", "0"});
   EXPECT_EQ(outcome.status, 0);
   EXPECT_NE(outcome.out.find("    Name  \\x1B[31mred\\n\\xFF\n"), std::string::npos);
-}
-
-TEST_F(CommandTest, ColoursHeadingsOnATerminalOnly) {
-  const std::vector<std::string> words = {"collect", "--server", fServer, "--class",
-                                          "VELKSG_SP_ComputerSystem"};
-  std::string coloured = kSystemTable;
-  for (const std::string heading :
-       {"rack7.server.json (orlo): One card", "SP 1", "Findings: none", "Service processor 1",
-        "Computer system (VELKSG_SP_ComputerSystem)"}) {
-    coloured.replace(coloured.find(heading), heading.size(), "\x1b[1m" + heading + "\x1b[0m");
-  }
-  EXPECT_EQ(Command(words).Environment("TERM=xterm").RunOnTerminal(), (Outcome{0, coloured, ""}));
-  EXPECT_EQ(Command(words).Environment("TERM=xterm").Environment("NO_COLOR=").RunOnTerminal(),
-            (Outcome{0, coloured, ""}));
-  EXPECT_EQ(Command(words).Environment("TERM=xterm").Environment("NO_COLOR=1").RunOnTerminal(),
-            (Outcome{0, kSystemTable, ""}));
-  EXPECT_EQ(Command(words).Environment("TERM=dumb").RunOnTerminal(),
-            (Outcome{0, kSystemTable, ""}));
-  EXPECT_EQ(Command(words).Environment("TERM=").RunOnTerminal(), (Outcome{0, kSystemTable, ""}));
-  EXPECT_EQ(Command(words).RunOnTerminal(), (Outcome{0, kSystemTable, ""}));
-  EXPECT_EQ(Command(words).Environment("TERM=xterm").Run(), (Outcome{0, kSystemTable, ""}));
 }
 
 TEST_F(CommandTest, CollectsBothDemonstrationServers) {
@@ -338,12 +241,12 @@ TEST_F(CommandTest, TellsFindingsOnStandardErrorWhereTheFormatHasNoPlaceForThem)
 TEST_F(CommandTest, ReadsAServerFromStandardInput) {
   const Outcome outcome =
       Command({"collect", "--server", "-", "--class", "VELKSG_SP_ComputerSystem"})
-          .Reading(STDIN_FILENO, fServer)
+          .StandardInput(fServer)
           .Run();
   std::string table = kSystemTable;
   table.replace(0, std::string("rack7.server.json").size(), "standard input");
   EXPECT_EQ(outcome, (Outcome{0, table, ""}));
-  EXPECT_EQ(Command({"collect", "--server", "-"}).Reading(STDIN_FILENO, "/dev/null").Run(),
+  EXPECT_EQ(Command({"collect", "--server", "-"}).StandardInput(NullDevice()).Run(),
             (Outcome{2, "",
                      "strake: standard input: line 1, column 1: syntax error while parsing value "
                      "- unexpected end of input; expected '[', '{', or a literal\n"}));
@@ -366,7 +269,7 @@ TEST_F(CommandTest, WarnsOnceOfAClassThatTheSchemaLacksAndHandsItOn) {
   const std::vector<std::string> words = {"--query",  "VELKSG_SP_ComputerSytem, Unheard",
                                           "--query",  "Unheard",
                                           "--trace",  fFolder / "trace",
-                                          "--output", "/dev/null"};
+                                          "--output", NullDevice()};
   EXPECT_EQ(Collect(words),
             (Outcome{0, "",
                      "strake: warning: --query: no class of the schema is called "
@@ -398,7 +301,7 @@ TEST_F(CommandTest, AsksEachOfAHundredAndThirtyServiceProcessorsWithoutACount) {
 
 TEST_F(CommandTest, HoldsTheClockOfAServiceProcessorBesideTheHosts) {
   const auto page = [this](const std::string& localTime) {
-    std::string text = kServer;
+    std::string text = kSmallServer;
     text.insert(1, "\"local_time\": \"" + localTime + "\", ");
     return Strake({"collect", "--class", "system", "--format", "html", "--server",
                    fFolder.Write("clock", text)})

@@ -1,20 +1,22 @@
 // A host that loads and detaches the module again and again keeps the memory it
 // had, the objects that are left alive on purpose aside.
+#include "platform/boundary/TraceWriter.h"
 #include "platform/pluginmanager/ManagerControl.h"
 #include "platform/session/HostSession.h"
 #include "platform/session/PluginModule.h"
 #include "plugin/frame/TStrakePluginCallbacks.h"
 #include "plugin/spaccess/DotIdentifier.h"
-#include "tests/support/Allocations.h"
+#include "tests/support/Heap.h"
+#include "tests/support/MaskAddresses.h"
 #include "tests/support/Places.h"
 #include "tests/support/Scenario.h"
 
 #include <array>
-#include <cstdlib>
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <iostream>
-#include <malloc.h>
+#include <sstream>
+#include <string>
 #include <vector>
 
 namespace strake::tests {
@@ -23,50 +25,29 @@ namespace {
 constexpr int kWarmUp = 10;
 constexpr int kRounds = 1000;
 
-const std::filesystem::path kModule = std::filesystem::path(BuildFolder()) / "lib/strake.so";
+const std::filesystem::path kModule =
+    std::filesystem::path(BuildFolder()) / "lib/strake" STRAKE_MODULE_SUFFIX;
 
 // What freed blocks leave in the C library's caches may differ from round to
 // round; it must not grow with them.
 constexpr std::size_t kCaches = 16384;
 
-bool CountsHeap() {
-#if defined(__SANITIZE_ADDRESS__)
-  return false;
-#elif defined(__has_feature)
-#if __has_feature(address_sanitizer)
-  return false;
-#endif
-#endif
-  return true;
-}
-
-// What an object takes of the heap, its header included.
-std::size_t HeapBytesOf(std::size_t size) {
-  void* const block = std::malloc(size);
-  const std::size_t taken = malloc_usable_size(block) + sizeof(std::size_t);
-  std::free(block);
-  return taken;
-}
-
 // Runs the rounds and expects `blocks` of `size` bytes to be left by each
 // behind the warm-up.
 template <typename Round>
 void ExpectLeft(Round round, long blocks, std::size_t size) {
-  long live = 0;
-  std::size_t heap = 0;
+  Heap before;
   for (int i = 1; i <= kRounds; ++i) {
     round();
     if (i == kWarmUp) {
-      live = Allocations::Live();
-      heap = mallinfo2().uordblks;
+      before = HeapNow();
     }
   }
   const long left = blocks * (kRounds - kWarmUp);
-  EXPECT_EQ(Allocations::Live() - live, left);
-  if (CountsHeap()) {
-    EXPECT_LE(mallinfo2().uordblks - heap,
-              static_cast<std::size_t>(left) * HeapBytesOf(size) + kCaches);
-  }
+  const Heap after = HeapNow();
+  EXPECT_EQ(after.blocks - before.blocks, left);
+  EXPECT_LE(after.bytes - before.bytes,
+            static_cast<std::size_t>(left) * HeapBytesOf(size) + kCaches);
   std::cout << left << " objects of " << size << " bytes are left\n";
 }
 
@@ -88,6 +69,28 @@ TEST(Load, AThousandLoadsAndDetachesLeaveOnlyThePresenceTestCommands) {
     alignas(dotCmd) std::array<char, sizeof(dotCmd)> command;
   };
   ExpectLeft(round, 2, sizeof(Left));
+}
+
+TEST(Load, ThreeHundredLoadsGiveOneTrace) {
+  const Scenario scenario = Scenario::Orlo(2);
+  std::string first;
+  for (int i = 0; i < 300; ++i) {
+    std::ostringstream trace;
+    platform::TraceWriter writer(trace);
+    const platform::PluginModule module(kModule);
+    platform::HostSession session(scenario.server, &writer);
+    session.Attach(module.Entry());
+    session.Initialize();
+    session.Query({"VELKSG_SP_ComputerSystem", "VELKSG_SP_NumericSensor"});
+    session.Deinitialize();
+    session.Detach();
+    const std::string text = MaskAddresses(trace.str());
+    if (i == 0) {
+      first = text;
+      EXPECT_NE(first.find("\"query_end\""), std::string::npos);
+    }
+    ASSERT_EQ(text, first) << "load " << i;
+  }
 }
 
 TEST(Load, ADetachWithoutDestroyLeavesTheObjectAliveAndNothingElse) {

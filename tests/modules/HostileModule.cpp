@@ -1,6 +1,7 @@
 // A plug-in module for the command's tests: what its query does, the requested
-// class says; "STRAKE_HOSTILE=STEP int" or "... memory" makes another step throw. A class of the
-// schema gives one instance whose text no terminal should obey.
+// class says; "STRAKE_HOSTILE=STEP int" or "... memory" makes another step throw,
+// "... handle" lets it use an empty handle. A class of the schema gives one
+// instance whose text no terminal should obey.
 #include "plugin/frame/ModuleEntry.h"
 #include "plugin/host/Handle.h"
 #include "plugin/host/TRootObject.h"
@@ -34,6 +35,9 @@ void FailIfAsked(const std::string& step) {
   }
   if (asked != nullptr && asked == step + " memory") {
     throw std::bad_alloc();
+  }
+  if (asked != nullptr && asked == step + " handle") {
+    strake::Deref(boost::shared_ptr<TPluginManagerNamespace>());
   }
 }
 

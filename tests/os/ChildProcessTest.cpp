@@ -1,15 +1,10 @@
-// Another program beside this one.
+// Another program beside this one, on every system.
 #include "os/ChildProcess.h"
-#include "os/Signals.h"
-#include "tests/support/Child.h"
-#include "tests/support/Processes.h"
+#include "tests/support/Helper.h"
+#include "tests/support/Said.h"
 #include "tests/support/TemporaryFolder.h"
 
-#include <csignal>
-#include <fcntl.h>
 #include <gtest/gtest.h>
-#include <ostream>
-#include <unistd.h>
 
 namespace strake::tests {
 namespace {
@@ -17,193 +12,88 @@ namespace {
 using Input = os::ChildProcess::Input;
 using Words = std::vector<std::string>;
 
-struct Said {
-  std::string out;
-  std::string err;
-  std::optional<int> status;
-  std::string cause;
-  bool operator==(const Said&) const = default;
-};
-
-std::ostream& operator<<(std::ostream& stream, const Said& said) {
-  return stream << "status " << said.status.value_or(-1) << " cause " << said.cause << "\n--- out\n"
-                << said.out << "--- err\n"
-                << said.err;
-}
-
-Said AllOf(os::ChildProcess& child) {
-  Said said;
-  do {
-    os::ChildProcess* const children[] = {&child};
-    os::ChildProcess::Wait(children, std::nullopt);
-    said.out += child.TakeOutput();
-    said.err += child.TakeErrors();
-  } while (!child.End());
-  said.status = child.End()->status;
-  said.cause = child.End()->cause;
-  return said;
-}
-
-Said Shell(const std::string& script, Input input = Input::None) {
-  os::ChildProcess child("/bin/sh", {"-c", script}, input);
+Said Help(const Words& words) {
+  os::ChildProcess child(Helper(), words, Input::None);
   return AllOf(child);
 }
 
-// The first line that it writes, which is the number of a process.
-pid_t NumberFrom(os::ChildProcess& child) {
+TEST(ChildProcess, SaysWhatItWroteToBothStreamsAndItsStatus) {
+  EXPECT_EQ(Help({"say", "out\n", "err\n", "3"}), (Said{"out\n", "err\n", 3, ""}));
+  EXPECT_EQ(Help({"say", "\r\n", "", "0"}), (Said{"\r\n", "", 0, ""}));
+  EXPECT_EQ(Help({"say", "", "\x1A no end", "255"}), (Said{"", "\x1A no end", 255, ""}));
+}
+
+TEST(ChildProcess, IsGivenAnyWordsAsTheyAre) {
+  const Words words{"",           "a b",
+                    "\"",         "\\",
+                    "\\\\",       "a\\\"b",
+                    "\\\"",       "\\\\\"",
+                    "ends in \\", "ends in \"",
+                    "\"quoted\"", "tab\t",
+                    "*.cpp",      "%PATH%",
+                    "$x",         "^&|<>",
+                    "'",          "/c",
+                    "--",         "\xC3\xA4\xE2\x82\xAC\xF0\x9F\x98\x80",
+                    "line\nline", "\\server\\name\\"};
+  Words all{"words"};
+  all.insert(all.end(), words.begin(), words.end());
+  std::string expected;
+  for (const std::string& word : words) {
+    expected += word + "|";
+  }
+  EXPECT_EQ(Help(all), (Said{expected, "", 0, ""}));
+}
+
+TEST(ChildProcess, LosesNothingOfWhatIsWrittenToBothStreams) {
+  const Said said = Help({"much", "1000000", "900000"});
+  EXPECT_TRUE(said.out == std::string(1000000, 'm'));
+  EXPECT_TRUE(said.err == std::string(900000, 'm'));
+}
+
+TEST(ChildProcess, LosesNothingOfManyThatEndBeforeTheyAreRead) {
+  constexpr std::size_t kChildren = 70;  // more than a system's call waits for
+  std::vector<std::unique_ptr<os::ChildProcess>> children;
+  std::vector<os::ChildProcess*> running;
+  for (std::size_t number = 0; number < kChildren; ++number) {
+    const Words words{"words", std::to_string(number), "second", "third"};
+    children.push_back(std::make_unique<os::ChildProcess>(Helper(), words, Input::None));
+    running.push_back(children.back().get());
+  }
+  while (!running.empty()) {
+    os::ChildProcess::Wait(running, std::nullopt);
+    std::erase_if(running, [](const os::ChildProcess* child) { return child->End().has_value(); });
+  }
+  for (std::size_t number = 0; number < kChildren; ++number) {
+    EXPECT_EQ(children[number]->TakeOutput(), std::to_string(number) + "|second|third|");
+  }
+}
+
+TEST(ChildProcess, ReadsNothingUnlessThatIsSaid) {
+  EXPECT_EQ(Help({"copy"}), (Said{"", "", 0, ""}));
+}
+
+TEST(ChildProcess, ThatIsNoProgramIsNotStarted) {
+  const TemporaryFolder folder;
+  const std::string text = folder.Write("text.exe", "no program");
+  for (const std::string& program : {folder / "none", text, folder.Path().string()}) {
+    EXPECT_THROW(os::ChildProcess(program, {}, Input::None), std::system_error) << program;
+  }
+}
+
+TEST(ChildProcess, WaitsAsLongAsIsSaidForOneThatSaysNothingMore) {
+  os::ChildProcess child(Helper(), {"stay"}, Input::None);
+  os::ChildProcess* const children[] = {&child};
   std::string text;
-  while (text.find('\n') == std::string::npos && !child.End()) {
-    os::ChildProcess* const children[] = {&child};
+  while (text.find('\n') == std::string::npos) {
     os::ChildProcess::Wait(children, std::nullopt);
     text += child.TakeOutput();
   }
-  return std::stoi(text);
-}
-
-// Says its number and stays.
-const Words kStaying = {"-c", "echo $$; exec sleep 600"};
-
-TEST(ChildProcess, SaysWhatItWroteAndHowItEnded) {
-  EXPECT_EQ(Shell("echo out; echo err >&2; exit 3"), (Said{"out\n", "err\n", 3, ""}));
-  EXPECT_EQ(Shell(":"), (Said{"", "", 0, ""}));
-  EXPECT_EQ(Shell("printf out; kill -ABRT $$"), (Said{"out", "", {}, "signal 6 (Aborted)"}));
-  EXPECT_EQ(Shell("kill -KILL $$"), (Said{"", "", {}, "signal 9 (Killed)"}));
-  // It goes on without them.
-  EXPECT_EQ(Shell("exec >&- 2>&-; exit 4"), (Said{"", "", 4, ""}));
-}
-
-TEST(ChildProcess, IsGivenItsWordsAsTheyAre) {
-  os::ChildProcess child("/bin/sh",
-                         {"-c", "printf '%s|' \"$@\"", "name", "", "a b", "$x", "\"'\\", "\n\x01"},
-                         Input::None);
-  EXPECT_EQ(AllOf(child), (Said{"|a b|$x|\"'\\|\n\x01|", "", 0, ""}));
-}
-
-TEST(ChildProcess, ThatCannotBeStartedIsAnError) {
-  const TemporaryFolder folder;
-  const struct {
-    std::string program;
-    int error;
-  } cases[] = {{folder / "none", ENOENT},
-               {folder.Write("text", "no program"), EACCES},
-               {folder.Path(), EACCES}};
-  for (const auto& one : cases) {
-    try {
-      const os::ChildProcess child(one.program, {}, Input::None);
-      FAIL() << one.program << " was started";
-    } catch (const std::system_error& error) {
-      EXPECT_EQ(error.code().value(), one.error) << one.program;
-    }
-  }
-}
-
-TEST(ChildProcess, LosesNothingOfMuchThatIsWritten) {
-  const Said said = Shell("head -c 1000000 /dev/zero; head -c 900000 /dev/zero >&2");
-  EXPECT_TRUE(said.out == std::string(1000000, '\0'));
-  EXPECT_TRUE(said.err == std::string(900000, '\0'));
-}
-
-TEST(ChildProcess, ReadsWhatThisProcessWouldOnlyWhereThatIsSaid) {
-  const TemporaryFolder folder;
-  const std::string file = folder.Write("input", "text");
-  for (const Input input : {Input::None, Input::Own}) {
-    EXPECT_EQ(InChild([&] {
-                ::dup2(::open(file.c_str(), O_RDONLY | O_CLOEXEC), STDIN_FILENO);
-                return Shell("cat", input).out;
-              }),
-              (ChildEnd{0, input == Input::Own ? "text" : ""}));
-  }
-}
-
-TEST(ChildProcess, HasNoDescriptorOfAnotherOne) {
-  const std::string list = "echo /proc/$$/fd/*";
-  const auto open = [] {
-    return std::distance(std::filesystem::directory_iterator("/proc/self/fd"), {});
-  };
-  const auto number = [](const std::string& text) {
-    return std::count(text.begin(), text.end(), ' ');
-  };
-  const auto before = open();
-  const std::string alone = Shell(list).out;
-  {
-    const os::ChildProcess other("/bin/sh", kStaying, Input::None);
-    EXPECT_EQ(number(Shell(list).out), number(alone));
-    EXPECT_GT(open(), before);
-  }
-  EXPECT_EQ(open(), before);
-}
-
-TEST(ChildProcess, IsGoneWithItsOwner) {
-  pid_t process = 0;
-  {
-    os::ChildProcess child("/bin/sh", kStaying, Input::None);
-    process = NumberFrom(child);
-    EXPECT_TRUE(IsThere(process));
-  }
-  EXPECT_FALSE(IsThere(process));
-}
-
-TEST(ChildProcess, HasEndedWhoeverHoldsItsPipes) {
-  os::ChildProcess child("/bin/sh", {"-c", "sleep 600 & echo $!"}, Input::None);
-  const Said said = AllOf(child);
-  EXPECT_EQ(said.status, 0);
-  EXPECT_EQ(::kill(std::stoi(said.out), SIGKILL), 0);
-}
-
-TEST(ChildProcess, IsNotWaitedForLongerThanIsSaid) {
-  os::ChildProcess child("/bin/sh", {"-c", "exec sleep 600"}, Input::None);
-  os::ChildProcess* const children[] = {&child};
   for (const auto moment : {std::chrono::milliseconds(-1000), std::chrono::milliseconds(20)}) {
     const auto until = os::ChildProcess::Clock::now() + moment;
     os::ChildProcess::Wait(children, until);
     EXPECT_GE(os::ChildProcess::Clock::now(), until);
     EXPECT_FALSE(child.End());
   }
-}
-
-TEST(ChildProcess, EndsBeforeASignalEndsThisProcess) {
-  const TemporaryFolder folder;
-  const ChildEnd end = InChild([&]() -> std::string {
-    os::PrepareForSignals();
-    os::ChildProcess child("/bin/sh", kStaying, Input::None);
-    static_cast<void>(folder.Write("number", std::to_string(NumberFrom(child))));
-    (void)std::raise(SIGTERM);
-    return "alive";
-  });
-  EXPECT_EQ(end, (ChildEnd{-SIGTERM, ""}));
-  EXPECT_FALSE(IsThere(std::stoi(ReadFile(folder / "number"))));
-}
-
-TEST(ChildProcess, DoesNotOutliveAProcessThatIsKilled) {
-  const ChildEnd end = InChild([] {
-    auto* const child = new os::ChildProcess("/bin/sh", kStaying, Input::None);
-    return std::to_string(NumberFrom(*child));
-  });
-  EXPECT_EQ(end.status, 0);
-  EXPECT_TRUE(EndsSoon(std::stoi(end.text)));
-}
-
-TEST(ChildProcess, HasTheSignalsThatThisProcessWasGiven) {
-  EXPECT_EQ(InChild([&] {
-              os::PrepareForSignals();
-              return Shell("kill -HUP $$; echo alive").cause +
-                     Shell("kill -PIPE $$; echo alive").cause;
-            }),
-            (ChildEnd{0, "signal 1 (Hangup)signal 13 (Broken pipe)"}));
-  EXPECT_EQ(InChild([&] {
-              (void)std::signal(SIGHUP, SIG_IGN);
-              os::PrepareForSignals();
-              return Shell("kill -HUP $$; echo alive").out;
-            }),
-            (ChildEnd{0, "alive\n"}));
-}
-
-TEST(ChildProcess, IsSeenToEndWhereEndedChildrenAreIgnored) {
-  EXPECT_EQ(InChild([] {
-              (void)std::signal(SIGCHLD, SIG_IGN);
-              return std::to_string(Shell("exit 5").status.value_or(-1));
-            }),
-            (ChildEnd{0, "5"}));
 }
 
 }  // namespace

@@ -88,8 +88,7 @@ TEST_F(HostCallsTest, GiveTheRealLocalTimeOtherwise) {
   const std::string earlier = TOSSpecific::GetLocalTime().ToString();
   std::array<char, 16> year{};
   const std::time_t now = std::time(nullptr);
-  std::tm local{};
-  localtime_r(&now, &local);
+  const std::tm local = *std::localtime(&now);
   std::strftime(year.data(), year.size(), "%Y%m%d%H%M%S", &local);
   const std::string later = TOSSpecific::GetLocalTime().ToString();
   EXPECT_LE(earlier.substr(0, 14), std::string(year.data()));

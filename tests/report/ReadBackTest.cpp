@@ -1,14 +1,10 @@
 // Formats for programs, read back: they say what the JSON report says.
 #include "report/CimXmlReport.h"
-#include "report/CsvReport.h"
 #include "report/JsonReport.h"
 #include "report/MofReport.h"
 #include "tests/report/Instances.h"
-#include "tests/report/RandomInstances.h"
-#include "tests/support/Places.h"
+#include "tests/report/RandomReport.h"
 #include "tests/support/ReadBack.h"
-#include "tests/support/TemporaryFolder.h"
-#include "tests/support/Tool.h"
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
@@ -17,18 +13,6 @@ namespace strake::tests {
 namespace {
 
 using report::Report;
-
-// One that was asked for the class of one of its instances, if there are any.
-Report RandomReport(std::mt19937& random) {
-  report::Collected collected{.facts = SomeFacts(), .instances = RandomInstances(random)};
-  for (std::size_t count = random() % 4; count > 0; --count) {
-    collected.instances.push_back(RandomSensor(random));
-  }
-  if (!collected.instances.empty()) {
-    collected.facts.classes = {collected.instances[random() % collected.instances.size()].schema};
-  }
-  return Report(std::move(collected), report::Secrets::Shown, RandomLimits(random));
-}
 
 void ExpectAllSayTheSame(const Report& report) {
   const auto instances = ReadJsonInstances(Written(report::WriteJson, report));
@@ -52,41 +36,6 @@ TEST(ReadBack, IsTheSameOfAllFormatsForAThousandRandomCollections) {
     ExpectAllSayTheSame(RandomReport(random));
     ASSERT_FALSE(HasFailure()) << "round " << round;
   }
-}
-
-TEST(ReadBack, OfCsvByPythonIsWhatTheJsonReportSaysOfAThousandRandomCollections) {
-  const TemporaryFolder folder;
-  std::mt19937 random(20240320);
-  for (int round = 0; round < 1000; ++round) {
-    const Report report = RandomReport(random);
-    const std::string name = std::to_string(round);
-    static_cast<void>(folder.Write(name + ".json", Written(report::WriteJson, report)));
-    const auto& classes = report.Facts().classes;
-    const std::string_view asked = classes.empty() ? "none" : classes.front()->name;
-    static_cast<void>(
-        folder.Write(name + '.' + std::string(asked) + ".csv", Written(report::WriteCsv, report)));
-  }
-  const ToolEnd end =
-      RunTool(Python(), InShellQuotes(SourceFolder() + "/tests/report/check_csv.py") + ' ' +
-                            InShellQuotes(folder.Path()));
-  EXPECT_EQ(end, (ToolEnd{0, "1000 tables are as their reports say\n"}));
-}
-
-TEST(ReadBack, FindsXmlThatIsValid) {
-  const TemporaryFolder folder;
-  std::mt19937 random(20240321);
-  for (int round = 0; round < 200; ++round) {
-    static_cast<void>(folder.Write(std::to_string(round) + ".xml",
-                                   Written(report::WriteCimXml, RandomReport(random))));
-  }
-  std::string validate = "--noout --dtdvalid ";
-  validate += InShellQuotes(SourceFolder() + "/tests/report/cim-xml.dtd") + ' ';
-  EXPECT_EQ(RunTool(XmlLint(), validate + InShellQuotes(folder.Path()) + "/*.xml"),
-            (ToolEnd{0, ""}));
-  const std::string wrong = folder.Write("wrong.xml",
-                                         "<?xml version=\"1.0\"?>\n<CIM CIMVERSION=\"2.0\" "
-                                         "DTDVERSION=\"2.0\"><DECLARATION/></CIM>\n");
-  EXPECT_NE(RunTool(XmlLint(), validate + InShellQuotes(wrong)).status, 0);
 }
 
 }  // namespace

@@ -2,15 +2,12 @@
 #include "plugin/host/TCIMSchemaHelper.h"
 #include "plugin/host/TOSSpecific.h"
 #include "plugin/host/TZEVStatusCode.h"
+#include "tests/strict/StaticData.h"
 #include "tests/strict/StrictHost.h"
 
 #include <boost/assert.hpp>
 #include <boost/make_shared.hpp>
 #include <cstdint>
-
-// The program's own data: what the linker puts between these two.
-extern "C" char __data_start;
-extern "C" char _end;
 
 namespace boost {
 
@@ -44,8 +41,8 @@ std::string RecordWithNamespace(Call call, const boost::shared_ptr<ICIMNamespace
 
 bool IsStatic(const void* address) {
   const auto number = reinterpret_cast<std::uintptr_t>(address);
-  return number >= reinterpret_cast<std::uintptr_t>(&__data_start) &&
-         number < reinterpret_cast<std::uintptr_t>(&_end);
+  const auto own = strake::strict::OwnStaticData();
+  return number >= own.begin && number < own.end;
 }
 
 class CoreLogger : public ILogger {

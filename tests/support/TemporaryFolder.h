@@ -1,25 +1,24 @@
 // A folder that disappears with the test.
 #pragma once
 
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <random>
 #include <set>
-#include <stdexcept>
 #include <string>
-#include <sys/stat.h>
 
 namespace strake::tests {
 
 class TemporaryFolder {
  public:
   TemporaryFolder() {
-    std::string name = (std::filesystem::temp_directory_path() / "strake-test-XXXXXX").string();
-    if (::mkdtemp(name.data()) == nullptr) {
-      throw std::runtime_error("cannot create " + name);
-    }
-    fPath = std::filesystem::canonical(name);
+    std::random_device random;
+    do {
+      fPath = std::filesystem::temp_directory_path() / ("strake-test-" + std::to_string(random()));
+    } while (!std::filesystem::create_directory(fPath));
+    std::filesystem::permissions(fPath, std::filesystem::perms::owner_all);
+    fPath = std::filesystem::canonical(fPath);
   }
   TemporaryFolder(const TemporaryFolder&) = delete;
   TemporaryFolder& operator=(const TemporaryFolder&) = delete;

@@ -68,7 +68,8 @@ class DialWalk : public testing::TestWithParam<DialRecord> {
     const std::vector<Lines> queries = Read(GetParam(), replies);
     ASSERT_EQ(queries.size(), replies.size());
     for (std::size_t i = 0; i < replies.size(); ++i) {
-      ASSERT_EQ(queries.at(i), Walk(GetParam(), replies.at(i), i + 1)) << "reply " << i;
+      ASSERT_EQ(queries.at(i), Walk(GetParam(), replies.at(i), static_cast<unsigned long>(i + 1)))
+          << "reply " << i;
     }
   }
 };

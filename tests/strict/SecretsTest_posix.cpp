@@ -1,5 +1,6 @@
 // Nothing that a query read stays within reach of a static object.
 #include "tests/strict/Classes.h"
+#include "tests/strict/StaticData.h"
 
 #include <cstdint>
 #include <cstdlib>
@@ -9,10 +10,6 @@
 #include <new>
 #include <string_view>
 #include <unistd.h>
-
-// The program's own data: what the linker puts between these two.
-extern "C" char __data_start;
-extern "C" char _end;
 
 // Memory is wiped when it is given back, so that what is found is in use.
 void* operator new(std::size_t size, const std::nothrow_t& /*tag*/) noexcept {
@@ -69,9 +66,8 @@ class OwnMemory {
 
 // True when a static object holds the text or points to it.
 bool IsWithinReach(const OwnMemory& memory, const std::string& text) {
-  const auto end = reinterpret_cast<std::uintptr_t>(&_end);
-  for (auto at = reinterpret_cast<std::uintptr_t>(&__data_start); at + sizeof at <= end;
-       at += sizeof at) {
+  const auto [begin, end] = OwnStaticData();
+  for (auto at = begin; at + sizeof at <= end; at += sizeof at) {
     if (memory.Holds(at, text) || memory.Holds(memory.Word(at), text)) return true;
   }
   return false;

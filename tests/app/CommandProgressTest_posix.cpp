@@ -1,5 +1,5 @@
 // The progress of a long run, on a terminal.
-#include "tests/app/Command.h"
+#include "tests/app/Command_posix.h"
 #include "tests/support/TemporaryFolder.h"
 
 #include <future>
@@ -31,9 +31,10 @@ class CommandProgressTest : public testing::Test {
 };
 
 TEST_F(CommandProgressTest, IsShownAfterASecondAndErasedAtTheEnd) {
-  const Outcome outcome = Command(Words(350)).Environment("TERM=xterm").RunWithErrorsOnTerminal();
+  const Outcome outcome =
+      PosixCommand(Words(350)).Environment("TERM=xterm").RunWithErrorsOnTerminal();
   EXPECT_EQ(outcome.status, 0);
-  EXPECT_EQ(outcome.out, Command(Words(0)).Run().out);
+  EXPECT_EQ(outcome.out, PosixCommand(Words(0)).Run().out);
   EXPECT_EQ(outcome.err.find(kErase + std::string("query 2 of 2, ")), 0U) << outcome.err;
   EXPECT_NE(outcome.err.find(
                 kErase + std::string("query 2 of 2, service processor 1 of 2, 3 commands sent")),
@@ -45,7 +46,7 @@ TEST_F(CommandProgressTest, IsShownAfterASecondAndErasedAtTheEnd) {
 TEST_F(CommandProgressTest, GivesWayToLogLines) {
   std::vector<std::string> words = Words(350);
   words.insert(words.end(), {"--log-level", "3"});
-  const Outcome outcome = Command(words).Environment("TERM=xterm").RunWithErrorsOnTerminal();
+  const Outcome outcome = PosixCommand(words).Environment("TERM=xterm").RunWithErrorsOnTerminal();
   const std::string line = "commands sent" + std::string(kErase) + "[3] Checking dotCmd";
   EXPECT_NE(outcome.err.find(line), std::string::npos) << outcome.err;
   EXPECT_EQ(outcome.err.find("sent["), std::string::npos);
@@ -57,16 +58,16 @@ TEST_F(CommandProgressTest, IsNotShownWhereItIsNotWantedOrCannotBeErased) {
   std::vector<std::string> quiet = words;
   quiet.emplace_back("--quiet");
   // Side by side, for each takes more than a second.
-  const auto run = [](const Command& command) {
+  const auto run = [](const PosixCommand& command) {
     return std::async(std::launch::async, [command] { return command.RunWithErrorsOnTerminal(); });
   };
   std::future<Outcome> outcomes[] = {
-      run(Command(quiet).Environment("TERM=xterm")),
-      run(Command(words).Environment("TERM=dumb")),
-      run(Command(words).Environment("TERM=")),
-      run(Command(words)),
+      run(PosixCommand(quiet).Environment("TERM=xterm")),
+      run(PosixCommand(words).Environment("TERM=dumb")),
+      run(PosixCommand(words).Environment("TERM=")),
+      run(PosixCommand(words)),
       std::async(std::launch::async,
-                 [&words] { return Command(words).Environment("TERM=xterm").Run(); }),
+                 [&words] { return PosixCommand(words).Environment("TERM=xterm").Run(); }),
   };
   const Outcome first = outcomes[0].get();
   EXPECT_EQ(first.status, 0);
@@ -77,7 +78,7 @@ TEST_F(CommandProgressTest, IsNotShownWhereItIsNotWantedOrCannotBeErased) {
 }
 
 TEST_F(CommandProgressTest, IsNotShownOfAShortRun) {
-  EXPECT_EQ(Command(Words(1)).Environment("TERM=xterm").RunWithErrorsOnTerminal().err, "");
+  EXPECT_EQ(PosixCommand(Words(1)).Environment("TERM=xterm").RunWithErrorsOnTerminal().err, "");
 }
 
 }  // namespace

@@ -1,6 +1,5 @@
-#include "tests/app/Completion.h"
-
 #include "tests/app/Command.h"
+#include "tests/app/Completion.h"
 
 #include <algorithm>
 #include <sstream>

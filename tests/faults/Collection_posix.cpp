@@ -1,10 +1,9 @@
-#include "tests/faults/Collection.h"
-
 #include "platform/boundary/BoundaryObserver.h"
 #include "platform/session/HostSession.h"
 #include "platform/spdriver/DriverControl.h"
 #include "plugin/config/SharedIdentifiers.h"
 #include "plugin/frame/ModuleEntry.h"
+#include "tests/faults/Collection.h"
 #include "tests/support/Allocations.h"
 #include "tests/support/FaultyObserver.h"
 #include "tests/support/Places.h"

@@ -1,5 +1,5 @@
 // A run that a signal ends.
-#include "tests/app/Command.h"
+#include "tests/app/Command_posix.h"
 #include "tests/support/TemporaryFolder.h"
 
 #include <csignal>
@@ -46,8 +46,8 @@ TEST_F(CommandSignalsTest, EndsWhileAServiceProcessorTakesItsTime) {
       "s", R"({"format": "strake-server/1", "sp": {"kind": "orlo", "latency_ms": 60000,
                "instances": [{"dot_commands": {}}]}})");
   const Outcome outcome =
-      Command({"collect", "--server", server, "--class", "VELKSG_SP_ComputerSystem", "--output",
-               fReport, "--trace", fTrace, "--log-level", "4"})
+      PosixCommand({"collect", "--server", server, "--class", "VELKSG_SP_ComputerSystem",
+                    "--output", fReport, "--trace", fTrace, "--log-level", "4"})
           .RunUntil("[3] Strake plugin begin execution.\n", SIGINT);
   EXPECT_EQ(outcome.status, -SIGINT);
   EXPECT_EQ(ReadFile(fReport), "old");
@@ -64,7 +64,7 @@ TEST_F(CommandSignalsTest, GoesOnThroughASignalThatItsParentIgnores) {
                        "--output",
                        fReport};
   // The query goes on with a class that the schema does not have.
-  const Outcome outcome = Command(words).Ignoring(SIGHUP).Run();
+  const Outcome outcome = PosixCommand(words).Ignoring(SIGHUP).Run();
   EXPECT_EQ(outcome.status, 1);
   EXPECT_NE(outcome.err.find("query 1 ended with an exception"), std::string::npos);
   EXPECT_EQ(ReadFile(fReport), "old");

@@ -1,5 +1,5 @@
 // What hostile descriptions cost in memory, and what happens when there is none.
-#include "tests/app/Command.h"
+#include "tests/app/Command_posix.h"
 #include "tests/support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
@@ -60,7 +60,7 @@ TEST(DescriptionMemory, StaysUnder256MebibytesForAnyFileOf16) {
   for (const auto& one : cases) {
     SCOPED_TRACE(one.what);
     const Outcome outcome =
-        Command({"check", folder.Write("s", one.text)}).AddressSpace(256 * kMebibyte).Run();
+        PosixCommand({"check", folder.Write("s", one.text)}).AddressSpace(256 * kMebibyte).Run();
     EXPECT_EQ(outcome.status, one.status) << outcome.err;
   }
 }
@@ -77,7 +77,7 @@ TEST(DescriptionMemory, EndsARunWithOneLineWhenThereIsTooLittle) {
   // Apart from about 8 MiB, where the loader is content and the C++ library, before
   // main, is not.
   for (unsigned long limit = 4 * kMebibyte; limit <= 64 * kMebibyte; limit += 5 * kMebibyte) {
-    const Outcome outcome = Command({"check", file}).AddressSpace(limit).Run();
+    const Outcome outcome = PosixCommand({"check", file}).AddressSpace(limit).Run();
     statuses.insert(outcome.status);
     if (outcome.status == 1) {
       EXPECT_EQ(outcome.err, "strake: " + file + ": there is not enough memory to read it\n");
