@@ -1,3 +1,4 @@
+#include "os/AddressSanitized_posix.h"
 #include "os/LoadableModule.h"
 #include "text/Quote.h"
 #include "text/TextEscape.h"
@@ -5,14 +6,6 @@
 #include <dlfcn.h>
 #include <string>
 #include <system_error>
-
-#if defined(__has_feature)
-#if __has_feature(address_sanitizer)
-#define STRAKE_ADDRESS_SANITIZED
-#endif
-#elif defined(__SANITIZE_ADDRESS__)
-#define STRAKE_ADDRESS_SANITIZED
-#endif
 
 namespace strake::os {
 namespace {

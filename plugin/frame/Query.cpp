@@ -13,6 +13,9 @@
 #include <exception>
 #include <string_view>
 
+// A macro of some C libraries' <stdlib.h>; here it is the sensor collector.
+#undef environ
+
 namespace strake {
 
 using NVELKZEV20::ICIMClass;
@@ -31,7 +34,7 @@ struct TStrakePluginCallbacks::Run {
   const std::string& MTM;
   const std::string& systemName;
   SPLibrary* spLib;
-  TSPEnviron& sensors;
+  TSPEnviron& environ;
 };
 
 std::span<const TStrakePluginCallbacks::Request> TStrakePluginCallbacks::Requests() {
@@ -98,11 +101,11 @@ void TStrakePluginCallbacks::Query(boost::shared_ptr<ICIMNamespace> cimNamespace
   NoteRequestedClasses(classes);
 
   SPLibrary* const spLib = SPLibrary::GetSplibraryInstance(0);
-  TSPEnviron sensors(cimNamespace, spLib, fProvider);
+  TSPEnviron environ(cimNamespace, spLib, fProvider);
   LogLevel3("Max_Num_Machines = ", Max_Num_Machines,
             " sizeof(MachineTypeArray) = ", sizeof(MachineTypeArray),
             ", sizeof(char*) = ", sizeof(char*));
-  const Run run = {cimNamespace, MTM, systemName, spLib, sensors};
+  const Run run = {cimNamespace, MTM, systemName, spLib, environ};
   bool isComplete = true;
   if (spLib->isDotcommand()) {
     isComplete = CollectOrlo(run);
@@ -167,9 +170,9 @@ bool TStrakePluginCallbacks::CollectOrlo(const Run& run) {
     }
   }
   if (fSP_NumericSensor) {
-    run.sensors.ExportOrloVoltages();
-    run.sensors.ExportOrloTemps();
-    run.sensors.ExportOrloFans();
+    run.environ.ExportOrloVoltages();
+    run.environ.ExportOrloTemps();
+    run.environ.ExportOrloFans();
   }
   LogLevel3("Orlo collection complete.");
   return true;
@@ -197,15 +200,15 @@ void TStrakePluginCallbacks::CollectFromOrlo(const Run& run, unsigned char sp) {
 }
 
 void TStrakePluginCallbacks::ReadOrloSensors(const Run& run, unsigned char sp) const {
-  run.sensors.SetNode(sp);
+  run.environ.SetNode(sp);
   LogLevel3("Begin collecting Orlo Environmental data.");
-  if (run.sensors.GetOrloVoltage().Code() != 0) {
+  if (run.environ.GetOrloVoltage().Code() != 0) {
     LogLevel3("Did not obtain all Orlo Voltage data");
   }
-  if (run.sensors.GetOrloTemps().Code() != 0) {
+  if (run.environ.GetOrloTemps().Code() != 0) {
     LogLevel3("Did not obtain all Orlo Temperature data");
   }
-  if (run.sensors.GetOrloFans().Code() != 0) {
+  if (run.environ.GetOrloFans().Code() != 0) {
     LogLevel3("Did not obtain all Orlo Fan data");
   }
 }
@@ -263,18 +266,18 @@ bool TStrakePluginCallbacks::IsHeldByManagementServer(const Run& run) const {
 }
 
 void TStrakePluginCallbacks::ReadTavitSensors(const Run& run, unsigned int kestleType) const {
-  if (run.sensors.GetKestleVoltage(kestleType).Code() != 0) {
+  if (run.environ.GetKestleVoltage(kestleType).Code() != 0) {
     LogLevel3("Did not obtain all Kestle Voltage data");
   }
-  if (run.sensors.GetKestleFan(kestleType).Code() != 0) {
+  if (run.environ.GetKestleFan(kestleType).Code() != 0) {
     LogLevel3("Did not obtain all Tavit Fan data");
   }
-  if (run.sensors.GetKestleTemperature(kestleType).Code() != 0) {
+  if (run.environ.GetKestleTemperature(kestleType).Code() != 0) {
     LogLevel3("Did not obtain all Tavit Temperature data");
   }
-  run.sensors.ExportKestleVoltages();
-  run.sensors.ExportKestleFans();
-  run.sensors.ExportKestleTemps();
+  run.environ.ExportKestleVoltages();
+  run.environ.ExportKestleFans();
+  run.environ.ExportKestleTemps();
 }
 
 }  // namespace strake

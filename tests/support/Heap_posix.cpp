@@ -1,16 +1,9 @@
+#include "os/AddressSanitized_posix.h"
 #include "tests/support/Allocations.h"
 #include "tests/support/Heap.h"
 
 #include <cstdlib>
 #include <malloc.h>
-
-#if defined(__has_feature)
-#if __has_feature(address_sanitizer)
-#define STRAKE_ADDRESS_SANITIZED
-#endif
-#elif defined(__SANITIZE_ADDRESS__)
-#define STRAKE_ADDRESS_SANITIZED
-#endif
 
 namespace strake::tests {
 
